@@ -1,0 +1,99 @@
+#include "PanelSession.h"
+
+#include "MRPDE_MACFirstEventHandler.h"
+#include "PDEAlerts.h"
+#include "PDEBundle.h"
+#include "PDEPanel.h"
+#include "PanelDescriber.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QJsonArray>
+
+QString PanelSession::samplePrinterPPD(QTemporaryDir& dir, const QString& name)
+{
+    std::shared_ptr<PDEBundle> bundle = PDEBundle::embedded();
+    const QString source = bundle ? bundle->pathForResource(name, QStringLiteral("ppd")) : QString();
+    if (source.isEmpty() || !dir.isValid())
+        return QString();
+    const QString target = dir.filePath(name + QStringLiteral(".ppd"));
+    QFile::remove(target);
+    if (!QFile::copy(source, target))
+        return QString();
+    QFile::setPermissions(target, QFile::ReadOwner | QFile::WriteOwner);
+    return target;
+}
+
+std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString* error)
+{
+    std::unique_ptr<PanelSession> s(new PanelSession);
+    s->m_bundle = options.bundlePath.isEmpty() ? PDEBundle::embedded() : PDEBundle::open(options.bundlePath, error);
+    if (!s->m_bundle) {
+        if (error && error->isEmpty())
+            *error = QStringLiteral("the plug-in bundle cannot be read");
+        return nullptr;
+    }
+    if (!options.printer.isEmpty()) {
+        s->m_host = PrintDialogHost::openPrinter(options.printer, options.server, error);
+    } else {
+        QString ppd = options.ppdPath;
+        if (ppd.isEmpty())
+            ppd = samplePrinterPPD(s->m_tempDir);
+        s->m_host = PrintDialogHost::openPPDFile(ppd, error);
+    }
+    if (!s->m_host)
+        return nullptr;
+    for (const QString& o : options.optionStrings)
+        if (!s->m_host->applyOptions(o, error))
+            return nullptr;
+
+    s->m_entry = std::make_unique<MRPDE_MACFirstEventHandler>();
+    s->m_entry->initWithBundle(s->m_bundle);
+    s->m_panels = s->m_entry->PDEPanelsForType(QStringLiteral("com.apple.print.pde.PrintDialogType"), s->m_host.get());
+    QList<PDEPanel*> raw;
+    for (const auto& p : std::as_const(s->m_panels))
+        raw.append(p.get());
+    s->m_host->setPanels(raw);
+    for (const auto& p : std::as_const(s->m_panels)) {
+        QString ignored;
+        p->restoreValuesAndReturnError(&ignored);
+    }
+    // Changes made by conflict resolution reach the panels before anyone looks.
+    QCoreApplication::sendPostedEvents();
+    return s;
+}
+
+PanelSession::~PanelSession()
+{
+    if (m_host)
+        m_host->setPanels({});
+    m_panels.clear();
+}
+
+bool PanelSession::prepareToPrint(QString* refusal)
+{
+    for (const auto& p : std::as_const(m_panels)) {
+        if (p->respondsToShouldPrint() && !p->shouldPrint()) {
+            if (refusal) {
+                *refusal = PDEAlerts::lastAlertText();
+                if (refusal->isEmpty())
+                    *refusal = QStringLiteral("the %1 panel refused to print").arg(p->panelName());
+            }
+            return false;
+        }
+    }
+    for (const auto& p : std::as_const(m_panels)) {
+        QString ignored;
+        p->saveValuesAndReturnError(&ignored);
+    }
+    QCoreApplication::sendPostedEvents();
+    return true;
+}
+
+QJsonObject PanelSession::describe()
+{
+    QJsonArray panels;
+    for (const auto& p : std::as_const(m_panels))
+        panels.append(PanelDescriber::describe(*p));
+    return QJsonObject{{QStringLiteral("panels"), panels}};
+}

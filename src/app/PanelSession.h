@@ -1,0 +1,49 @@
+#pragma once
+#include "PrintDialogHost.h"
+
+#include <QJsonObject>
+#include <QList>
+#include <QStringList>
+#include <QTemporaryDir>
+#include <memory>
+
+class MRPDE_MACFirstEventHandler;
+class PDEBundle;
+class PDEPanel;
+
+// One print dialog's worth of state: the host for a queue or a PPD file, the
+// plug-in and its panels, restored from the queue's saved and the command
+// line's options.
+class PanelSession {
+public:
+    struct Options {
+        QString ppdPath;      // a PPD file; empty with no printer means the sample printer
+        QString printer;      // a CUPS queue
+        QString server;       // host:port of the CUPS server, or empty
+        QString bundlePath;   // the plug-in bundle; empty means the built-in one
+        QStringList optionStrings;  // as given to -o
+    };
+
+    static std::unique_ptr<PanelSession> open(const Options& options, QString* error);
+    ~PanelSession();
+
+    PrintDialogHost& host() { return *m_host; }
+    const QList<std::shared_ptr<PDEPanel>>& panels() const { return m_panels; }
+    PDEBundle& bundle() { return *m_bundle; }
+
+    // Every panel's print checks (where it has them) and save; false with the
+    // refusing panel's alert text in *refusal when one refuses.
+    bool prepareToPrint(QString* refusal);
+    // {"panels":[...]} for every panel in order.
+    QJsonObject describe();
+    // The path of the built-in sample printer's PPD, copied out of the program.
+    static QString samplePrinterPPD(QTemporaryDir& dir, const QString& name = QStringLiteral("velmora-c5500"));
+
+private:
+    PanelSession() = default;
+    QTemporaryDir m_tempDir;
+    std::shared_ptr<PDEBundle> m_bundle;
+    std::unique_ptr<PrintDialogHost> m_host;
+    std::unique_ptr<MRPDE_MACFirstEventHandler> m_entry;
+    QList<std::shared_ptr<PDEPanel>> m_panels;
+};

@@ -1,0 +1,90 @@
+#include "PDEBundle.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QTranslator>
+
+static void initBundleResources()
+{
+    Q_INIT_RESOURCE(bundle);
+}
+
+std::shared_ptr<PDEBundle> PDEBundle::open(const QString& path, QString* error)
+{
+    QFile info(QDir(path).filePath(QStringLiteral("Info.json")));
+    if (!info.open(QIODevice::ReadOnly)) {
+        if (error)
+            *error = QStringLiteral("cannot read %1: %2").arg(info.fileName(), info.errorString());
+        return nullptr;
+    }
+    QJsonParseError parseError;
+    const QJsonDocument doc = QJsonDocument::fromJson(info.readAll(), &parseError);
+    if (!doc.isObject()) {
+        if (error)
+            *error = QStringLiteral("%1 is not a JSON object: %2").arg(info.fileName(), parseError.errorString());
+        return nullptr;
+    }
+    std::shared_ptr<PDEBundle> bundle(new PDEBundle);
+    bundle->m_path = path;
+    bundle->m_info = doc.object().toVariantMap();
+    bundle->setLanguage(QString());
+    return bundle;
+}
+
+std::shared_ptr<PDEBundle> PDEBundle::embedded()
+{
+    initBundleResources();
+    return open(QStringLiteral(":/bundle"));
+}
+
+PDEBundle::~PDEBundle() = default;
+
+QString PDEBundle::bundleIdentifier() const
+{
+    return m_info.value(QStringLiteral("CFBundleIdentifier")).toString();
+}
+
+QString PDEBundle::pathForResource(const QString& name, const QString& type) const
+{
+    QString folder, suffix = type;
+    if (type == QLatin1String("plist") || type == QLatin1String("json")) {
+        folder = QStringLiteral("data");
+        suffix = QStringLiteral("json");
+    } else if (type == QLatin1String("png")) {
+        folder = QStringLiteral("images");
+    } else if (type == QLatin1String("html")) {
+        folder = QStringLiteral("help");
+    } else if (type == QLatin1String("ppd")) {
+        folder = QStringLiteral("printers");
+    }
+    const QString file = QDir(m_path).filePath(folder + QLatin1Char('/') + name + QLatin1Char('.') + suffix);
+    return QFileInfo::exists(file) ? file : QString();
+}
+
+void PDEBundle::setLanguage(const QString& language)
+{
+    m_translator = std::make_unique<QTranslator>();
+    const QString dir = QDir(m_path).filePath(QStringLiteral("translations"));
+    if (!language.isEmpty()) {
+        m_language = m_translator->load(QStringLiteral("pde_") + language, dir) ? language : QStringLiteral("en");
+        return;
+    }
+    // The user's languages in order of preference; English when none matches.
+    if (m_translator->load(QLocale(), QStringLiteral("pde"), QStringLiteral("_"), dir))
+        m_language = m_translator->language().section(QLatin1Char('_'), 0, 0);
+    else
+        m_language = QStringLiteral("en");
+}
+
+QString PDEBundle::localizedString(const QString& key, const QString& table) const
+{
+    if (key.isEmpty())
+        return key;
+    const QString t = m_translator ? m_translator->translate(table.toUtf8().constData(), key.toUtf8().constData())
+                                   : QString();
+    return t.isEmpty() ? key : t;
+}
