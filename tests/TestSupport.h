@@ -1,0 +1,51 @@
+#pragma once
+#include "PDEPluginCallback.h"
+#include "PrintDialogHost.h"
+
+#include <QSet>
+#include <QString>
+#include <QTemporaryDir>
+#include <QVariantMap>
+#include <memory>
+
+class PDEBundle;
+
+namespace TestSupport {
+// A fixture PPD by file name, or a sample printer from the bundle.
+QString fixture(const QString& name);
+QString samplePPD(const QString& name = QStringLiteral("velmora-c5500"));
+// A real host on a PPD file; fails the test when the PPD cannot be opened.
+std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath);
+// A bundle in a temporary folder with the given Info keys, sharing the
+// built-in bundle's other resources.
+std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap& info);
+// Runs print-panels; answers the exit status and fills stdout/stderr.
+int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
+}
+
+// A callback that forwards to a real host but can leave operations out, as
+// a print dialog that offers less would.
+class PartialCallback : public PDEPluginCallback {
+public:
+    PartialCallback(PrintDialogHost* host, QSet<Operation> missing = {}) : m_host(host), m_missing(std::move(missing)) {}
+
+    bool respondsToOperation(Operation op) const override { return !m_missing.contains(op) && m_host->respondsToOperation(op); }
+    PMPrintSession* printSession() override { return m_host->printSession(); }
+    PMPrintSettings* printSettings() override { return m_host->printSettings(); }
+    PMPageFormat* pageFormat() override { return m_host->pageFormat(); }
+    PMPrinter* pmPrinter() override { return m_host->pmPrinter(); }
+    ppd_file_s* ppdFile() override { return m_host->ppdFile(); }
+    bool willChangePPDOptionKeyValue(const QString& o, const QString& c) override
+    {
+        ++approvals;
+        return m_host->willChangePPDOptionKeyValue(o, c);
+    }
+    void panelViewDidResize() override { ++resizes; }
+
+    int approvals = 0;
+    int resizes = 0;
+
+private:
+    PrintDialogHost* m_host;
+    QSet<Operation> m_missing;
+};
