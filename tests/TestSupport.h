@@ -19,6 +19,9 @@ std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath);
 // A bundle in a temporary folder with the given Info keys, sharing the
 // built-in bundle's other resources.
 std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap& info);
+// Writes a PPD into dir: a minimal valid header and Letter page size, then
+// body (options, attributes, constraints). Answers the file's path.
+QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body);
 // Runs print-panels; answers the exit status and fills stdout/stderr.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
 }

@@ -1,0 +1,244 @@
+// The plug-in entry: which panels are offered, the debug switch, the log
+// formats and version probes, and the headless command line around them.
+#include "MRPDE_MACChangeHandlerModel.h"
+#include "MRPDE_MACFirstEventHandler.h"
+#include "PDEBundle.h"
+#include "PDELog.h"
+#include "PDELogSink.h"
+#include "PDEPanelFactory.h"
+#include "PDEVersionChecks.h"
+#include "TestSupport.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTest>
+#include <cups/ppd.h>
+
+class EntryTest : public QObject {
+    Q_OBJECT
+private slots:
+    void standalonePanelDecision_data();
+    void standalonePanelDecision();
+    void debugSwitchFromInfo_data();
+    void debugSwitchFromInfo();
+    void formats_data();
+    void formats();
+    void commandLine_data();
+    void commandLine();
+    void printOptionsOutput();
+    // These turn the process-wide debug switch on, so they come last.
+    void panelsForType();
+    void versionProbes();
+};
+
+void EntryTest::standalonePanelDecision_data()
+{
+    QTest::addColumn<QVariant>("merged");  // invalid: key absent
+    QTest::addColumn<QStringList>("extensions");
+    QTest::addColumn<bool>("offered");
+
+    const QStringList none;
+    const QStringList unrelated{"/usr/lib/velmora/ColorProfiles.plugin", "Velmora Toolbox"};
+    QTest::newRow("YES, no attribute") << QVariant("YES") << none << true;
+    QTest::newRow("YES, unrelated attributes") << QVariant("YES") << unrelated << true;
+    QTest::newRow("YES, advanced options extension")
+        << QVariant("YES") << QStringList{"/Library/Printers/Velmora/PDEs/AdvancedOptionPDE.plugin"} << false;
+    QTest::newRow("YES, special pages after an unrelated one")
+        << QVariant("YES") << QStringList{"/x/Other.plugin", "/x/SpecialPagePDE.plugin"} << false;
+    QTest::newRow("YES, pattern is case-sensitive") << QVariant("YES") << QStringList{"/x/advancedoptionpde.plugin"} << true;
+    QTest::newRow("absent") << QVariant() << none << false;
+    QTest::newRow("lower-case yes") << QVariant("yes") << none << false;
+    QTest::newRow("boolean true") << QVariant(true) << none << false;
+    QTest::newRow("YES with a blank") << QVariant("YES ") << none << false;
+}
+
+void EntryTest::standalonePanelDecision()
+{
+    QFETCH(QVariant, merged);
+    QFETCH(QStringList, extensions);
+    QFETCH(bool, offered);
+
+    QTemporaryDir dir;
+    QVariantMap info{{"CFBundleIdentifier", "org.printpanels.pde"}};
+    if (merged.isValid())
+        info.insert(QStringLiteral("UseMergedPDE"), merged);
+    auto bundle = TestSupport::bundleWithInfo(dir, info);
+    QVERIFY(bundle);
+    QString body;
+    for (const QString& e : extensions)
+        body += QStringLiteral("*APDialogExtension: \"%1\"\n").arg(e);
+    auto host = TestSupport::openHost(TestSupport::writePPD(dir, QStringLiteral("x.ppd"), body));
+    QVERIFY(host);
+    QCOMPARE(MRPDE_MACFirstEventHandler::offersStandalonePanels(bundle.get(), host->ppd()), offered);
+}
+
+void EntryTest::debugSwitchFromInfo_data()
+{
+    QTest::addColumn<QVariant>("debug");  // invalid: key absent
+    QTest::addColumn<bool>("logs");
+    QTest::newRow("absent") << QVariant() << false;
+    QTest::newRow("NO still turns it on") << QVariant("NO") << true;
+    QTest::newRow("empty string") << QVariant("") << true;
+    QTest::newRow("false") << QVariant(false) << true;
+}
+
+void EntryTest::debugSwitchFromInfo()
+{
+    QFETCH(QVariant, debug);
+    QFETCH(bool, logs);
+    // The switch lives for the process, so each case runs in a process of its own.
+    QTemporaryDir dir;
+    QVariantMap info{{"UseMergedPDE", "YES"}};
+    if (debug.isValid())
+        info.insert(QStringLiteral("DEBUG"), debug);
+    QVERIFY(TestSupport::bundleWithInfo(dir, info));
+    QString out, err;
+    const int rc = TestSupport::runApp({"--bundle", dir.path(), "--describe"}, &out, &err, {"PRINT_PANELS_LOG_STDERR=1"});
+    QCOMPARE(rc, 0);
+    // The sample printer asks for colour profiles in a folder this machine does not have.
+    QCOMPARE(err.contains(QStringLiteral("PDE: ChangeHandlerModel(model): makeCustomFeatures: UCS Path is not present in system.")),
+             logs);
+    QCOMPARE(err.contains(QStringLiteral("PDE: ")), logs);
+}
+
+void EntryTest::formats_data()
+{
+    QTest::addColumn<QString>("format");
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("objects") << "%@: %@" << QStringList{"PDE", "x"} << "PDE: x";
+    QTest::newRow("numbers and percent") << "%d%% of %i (%s)" << QStringList{"5", "7", "YES"} << "5% of 7 (YES)";
+    QTest::newRow("precision") << "%.2f in" << QStringList{"3.14159"} << "3.14 in";
+    QTest::newRow("missing argument") << "a %@ b %@" << QStringList{"1"} << "a 1 b (null)";
+    QTest::newRow("argument with a format in it") << "<%@>" << QStringList{"%@ %d"} << "<%@ %d>";
+    QTest::newRow("trailing percent") << "100%" << QStringList{} << "100%";
+}
+
+void EntryTest::formats()
+{
+    QFETCH(QString, format);
+    QFETCH(QStringList, args);
+    QFETCH(QString, expected);
+    QCOMPARE(PDEStringWithFormat(format, args), expected);
+    QCOMPARE(Format(nullptr, QStringLiteral("A"), QStringLiteral("B")), QStringLiteral("A: B"));
+}
+
+void EntryTest::commandLine_data()
+{
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<int>("status");
+    QTest::addColumn<QString>("message");
+
+    QTemporaryDir* dir = new QTemporaryDir;  // lives as long as the test process
+    const QString notPPD = dir->filePath(QStringLiteral("notes.ppd"));
+    QFile f(notPPD);
+    f.open(QIODevice::WriteOnly);
+    f.write("just some text\n");
+    f.close();
+    const QString mono = TestSupport::samplePPD(QStringLiteral("velmora-m200"));
+
+    QTest::newRow("missing PPD") << QStringList{"--ppd", "/nonexistent/x.ppd", "--describe"} << 2 << "no such file";
+    QTest::newRow("not a PPD") << QStringList{"--ppd", notPPD, "--describe"} << 2 << "not a valid PPD file";
+    QTest::newRow("malformed -o") << QStringList{"--ppd", mono, "-o", "a='b", "--print-options"} << 2 << "unclosed quote";
+    QTest::newRow("no option name") << QStringList{"--ppd", mono, "-o", "=1", "--describe"} << 2 << "no name";
+    QTest::newRow("unknown choice") << QStringList{"--ppd", mono, "-o", "Duplex=Sideways", "--print-options"} << 2
+                                    << "has no choice \"Sideways\"";
+    QTest::newRow("unknown flag") << QStringList{"--frobnicate"} << 2 << "frobnicate";
+    QTest::newRow("two modes") << QStringList{"--describe", "--print-options"} << 2 << "choose one";
+    QTest::newRow("bad bundle") << QStringList{"--bundle", "/nonexistent", "--describe"} << 2 << "Info.json";
+    QTest::newRow("describe") << QStringList{"--ppd", mono, "--describe"} << 0 << "";
+}
+
+void EntryTest::commandLine()
+{
+    QFETCH(QStringList, args);
+    QFETCH(int, status);
+    QFETCH(QString, message);
+    QString out, err;
+    QCOMPARE(TestSupport::runApp(args, &out, &err), status);
+    if (status == 0) {
+        const QJsonDocument doc = QJsonDocument::fromJson(out.toUtf8());
+        QVERIFY(doc.isObject());
+        QVERIFY(doc.object().value(QStringLiteral("panels")).isArray());
+        return;
+    }
+    QVERIFY(out.isEmpty());
+    QStringList lines = err.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    lines.removeIf([](const QString& l) { return l.startsWith(QLatin1String("QStandardPaths")); });
+    QCOMPARE(lines.size(), 1);
+    QVERIFY2(lines.first().startsWith(QLatin1String("print-panels: ")) && lines.first().contains(message), qPrintable(err));
+}
+
+void EntryTest::printOptionsOutput()
+{
+    const QString mono = TestSupport::samplePPD(QStringLiteral("velmora-m200"));
+    QString out, err;
+    QCOMPARE(TestSupport::runApp({"--ppd", mono, "-o", "zz=last aa='first one'", "-o", "note='line1\nline2' PageSize=A4",
+                                  "--print-options"},
+                                 &out, &err),
+             0);
+    const QStringList lines = out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QStringList keys;
+    for (const QString& l : lines)
+        keys << l.section(QLatin1Char('='), 0, 0);
+    QStringList sorted = keys;
+    std::sort(sorted.begin(), sorted.end());
+    QCOMPARE(keys, sorted);
+    QVERIFY(lines.contains(QStringLiteral("aa=first one")));
+    QVERIFY(lines.contains(QStringLiteral("PageSize=A4")));
+    QVERIFY(lines.contains(QStringLiteral("zz=last")));
+    // A value cannot forge a line of its own.
+    QVERIFY(lines.contains(QStringLiteral("note=line1\\nline2")));
+    QVERIFY(!keys.contains(QStringLiteral("line2")));
+}
+
+void EntryTest::panelsForType()
+{
+    QTemporaryDir dir;
+    auto bundle = TestSupport::bundleWithInfo(dir, {{"DEBUG", "1"}, {"UseMergedPDE", "YES"}});
+    QVERIFY(bundle);
+    auto host = TestSupport::openHost(TestSupport::samplePPD(QStringLiteral("velmora-m200")));
+    QVERIFY(host);
+    PDELogCapture log;
+    MRPDE_MACFirstEventHandler entry;
+    QVERIFY(entry.initWithBundle(bundle));
+    QVERIFY(MRPDE_MACFirstEventHandler::debug());
+    const auto first = entry.PDEPanelsForType(QStringLiteral("anything"), host.get());
+    auto model1 = entry.dataModel();
+    QVERIFY(model1);
+    QCOMPARE(model1->ppd(), host->ppd());
+    // Asked again: a second model.
+    entry.PDEPanelsForType(QString(), host.get());
+    QVERIFY(entry.dataModel() != model1);
+    // Panels that cannot be made are logged and left out, in the dialog's order, on every request.
+    QStringList expected;
+    int made = 0;
+    for (const auto& g : PDEPanelFactory::genericPanels()) {
+        if (g.create)
+            ++made;
+        else
+            expected << QStringLiteral("PDE: ") + QString::fromLatin1(g.failureMessage);
+    }
+    QCOMPARE(log.lines().filter(QStringLiteral("Load Failed")), expected + expected);
+    QVERIFY(first.size() >= made);
+}
+
+void EntryTest::versionProbes()
+{
+    PDELogCapture log;
+    QVERIFY(RunningOn105OrLater());
+    QVERIFY(RunningOn105OrLater());
+    QCOMPARE(log.count(QStringLiteral("(64-bit) Mac OS X 10.5 or later")), 2);
+
+    const bool first = isBiggerThan106();
+    QCOMPARE(isBiggerThan106(), first);
+    const QStringList versions = log.lines().filter(QRegularExpression(QStringLiteral("^System Version \\d+\\.\\d+\\.\\d+$")));
+    QCOMPARE(versions.size(), 1);
+    const QStringList parts = versions.first().mid(15).split(QLatin1Char('.'));
+    const int major = parts[0].toInt(), minor = parts[1].toInt();
+    QCOMPARE(first, major > 10 || (major == 10 && minor >= 7));
+}
+
+QTEST_MAIN(EntryTest)
+#include "tst_entry.moc"

@@ -1,0 +1,267 @@
+// The Linux print-dialog host: print settings and page format over CUPS
+// options, opening PPDs, option strings as lp takes them, the job's options
+// and the bundle.
+#include "PDEBundle.h"
+#include "PMPageFormat.h"
+#include "PMPrintSettings.h"
+#include "PrintDialogHost.h"
+#include "TestSupport.h"
+
+#include <QFile>
+#include <QTest>
+#include <cups/ppd.h>
+
+class HostTest : public QObject {
+    Q_OBJECT
+private slots:
+    void printSettingsValues();
+    void orientation_data();
+    void orientation();
+    void layoutAndCoverPage_data();
+    void layoutAndCoverPage();
+    void optionStrings_data();
+    void optionStrings();
+    void openErrors_data();
+    void openErrors();
+    void applyOptions();
+    void jobOptions();
+    void bundle();
+};
+
+void HostTest::printSettingsValues()
+{
+    PMPrintSettings s;
+    QString v = QStringLiteral("untouched");
+    QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("k"), &v), int(kPMKeyNotFound));
+    QVERIFY(v.isNull());
+    QCOMPARE(PMPrintSettingsGetValue(nullptr, QStringLiteral("k"), &v), int(kPMInvalidParameter));
+    QCOMPARE(PMPrintSettingsSetValue(&s, QString(), QStringLiteral("x"), false), int(kPMInvalidParameter));
+
+    const QString hostile = QStringLiteral("a b 'c' \"d\" \\ \n=; %s %@ ünï");
+    QCOMPARE(PMPrintSettingsSetValue(&s, QStringLiteral("k"), hostile, false), int(kPMNoError));
+    QCOMPARE(PMPrintSettingsSetValue(&s, QStringLiteral("e"), QLatin1String(""), false), int(kPMNoError));
+    QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("k"), &v), int(kPMNoError));
+    QCOMPARE(v, hostile);
+    QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("e"), &v), int(kPMNoError));
+    QVERIFY(!v.isNull() && v.isEmpty());
+    // Insertion order is kept; setting again replaces in place.
+    s.setValue(QStringLiteral("k"), QStringLiteral("2"));
+    QCOMPARE(s.entries().first().first, QStringLiteral("k"));
+
+    // Through CUPS options and back, the text survives whole.
+    s.setValue(QStringLiteral("k"), hostile);
+    cups_option_t* options = nullptr;
+    const int n = s.toCupsOptions(&options);
+    QCOMPARE(n, 2);
+    QCOMPARE(QString::fromUtf8(cupsGetOption("k", n, options)), hostile);
+    cupsFreeOptions(n, options);
+
+    unsigned copies = 0;
+    QCOMPARE(PMGetCopies(&s, &copies), int(kPMNoError));
+    QCOMPARE(copies, 1u);
+    s.setValue(QStringLiteral("copies"), QStringLiteral("12"));
+    PMGetCopies(&s, &copies);
+    QCOMPARE(copies, 12u);
+    s.setValue(QStringLiteral("copies"), QStringLiteral("-3"));
+    PMGetCopies(&s, &copies);
+    QCOMPARE(copies, 1u);
+}
+
+void HostTest::orientation_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<int>("expected");
+    QTest::newRow("nothing") << "" << 1;
+    QTest::newRow("portrait") << "orientation-requested=3" << 1;
+    QTest::newRow("landscape") << "orientation-requested=4" << 2;
+    QTest::newRow("reverse landscape") << "orientation-requested=5" << 4;
+    QTest::newRow("reverse portrait") << "orientation-requested=6" << 3;
+    QTest::newRow("landscape alone") << "landscape" << 2;
+    QTest::newRow("requested wins over landscape") << "landscape orientation-requested=3" << 1;
+}
+
+void HostTest::orientation()
+{
+    QFETCH(QString, options);
+    QFETCH(int, expected);
+    PMPrintSettings s;
+    s.addCupsOptionString(options);
+    PMPageFormat format(&s);
+    PMOrientation o {};
+    QCOMPARE(PMGetOrientation(&format, &o), int(kPMNoError));
+    QCOMPARE(int(o), expected);
+}
+
+void HostTest::layoutAndCoverPage_data()
+{
+    QTest::addColumn<QString>("options");
+    QTest::addColumn<int>("rows");
+    QTest::addColumn<int>("columns");
+    QTest::addColumn<int>("cover");
+    QTest::newRow("defaults") << "" << 1 << 1 << 1;
+    QTest::newRow("2-up") << "number-up=2" << 1 << 2 << 1;
+    QTest::newRow("4-up") << "number-up=4" << 2 << 2 << 1;
+    QTest::newRow("6-up") << "number-up=6" << 2 << 3 << 1;
+    QTest::newRow("9-up") << "number-up=9" << 3 << 3 << 1;
+    QTest::newRow("16-up") << "number-up=16" << 4 << 4 << 1;
+    QTest::newRow("odd n-up") << "number-up=5" << 1 << 1 << 1;
+    QTest::newRow("banner first") << "job-sheets=standard,none" << 1 << 1 << 2;
+    QTest::newRow("banner last only") << "job-sheets=none,standard" << 1 << 1 << 1;
+}
+
+void HostTest::layoutAndCoverPage()
+{
+    QFETCH(QString, options);
+    QFETCH(int, rows);
+    QFETCH(int, columns);
+    QFETCH(int, cover);
+    PMPrintSettings s;
+    s.addCupsOptionString(options);
+    int v = 0;
+    QCOMPARE(PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMLayoutRows), &v), int(kPMNoError));
+    QCOMPARE(v, rows);
+    PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMLayoutColumns), &v);
+    QCOMPARE(v, columns);
+    PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMCoverPage), &v);
+    QCOMPARE(v, cover);
+}
+
+void HostTest::optionStrings_data()
+{
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("plain") << "a=1 b=2" << true;
+    QTest::newRow("bare name") << "landscape" << true;
+    QTest::newRow("single quotes") << "k='a b'" << true;
+    QTest::newRow("double quotes") << "k=\"a 'b'\"" << true;
+    QTest::newRow("escaped quote") << "k=a\\'b" << true;
+    QTest::newRow("braces") << "k={a=1 b=2}" << true;
+    QTest::newRow("empty") << "" << true;
+    QTest::newRow("no name") << "=value" << false;
+    QTest::newRow("open quote") << "k='a b" << false;
+    QTest::newRow("open brace") << "k={a" << false;
+    QTest::newRow("stray brace") << "k=a}" << false;
+    QTest::newRow("trailing backslash") << "k=a\\" << false;
+    QTest::newRow("control in name") << "k\x01=1" << false;
+}
+
+void HostTest::optionStrings()
+{
+    QFETCH(QString, text);
+    QFETCH(bool, valid);
+    QString error;
+    QCOMPARE(PrintDialogHost::validateOptionString(text, &error), valid);
+    QCOMPARE(error.isEmpty(), valid);
+}
+
+void HostTest::openErrors_data()
+{
+    QTest::addColumn<QString>("content");  // null: the file does not exist
+    QTest::addColumn<QString>("message");
+    QTest::newRow("missing") << QString() << "no such file";
+    QTest::newRow("not a PPD") << "hello, world\n" << "not a valid PPD file";
+    QTest::newRow("empty") << "" << "not a valid PPD file";
+    QTest::newRow("broken structure") << "*PPD-Adobe: \"4.3\"\n*OpenGroup: A/A\n*OpenGroup: B/B\n" << "line 3";
+    QTest::newRow("a folder") << "<dir>" << "cannot be read";
+}
+
+void HostTest::openErrors()
+{
+    QFETCH(QString, content);
+    QFETCH(QString, message);
+    QTemporaryDir dir;
+    QString path = dir.filePath(QStringLiteral("x.ppd"));
+    if (content == QLatin1String("<dir>")) {
+        QVERIFY(QDir().mkpath(path));
+    } else if (!content.isNull()) {
+        QFile f(path);
+        QVERIFY(f.open(QIODevice::WriteOnly));
+        f.write(content.toUtf8());
+    }
+    QString error;
+    QVERIFY(!PrintDialogHost::openPPDFile(path, &error));
+    QVERIFY2(error.contains(message), qPrintable(error));
+    QVERIFY(error.contains(path));
+}
+
+void HostTest::applyOptions()
+{
+    auto host = TestSupport::openHost(TestSupport::fixture(QStringLiteral("../../bundle/printers/velmora-m200.ppd")));
+    if (!host) {
+        QTemporaryDir dir;
+        host = TestSupport::openHost(TestSupport::writePPD(dir, QStringLiteral("h.ppd"), QString()));
+    }
+    QVERIFY(host);
+    QString error;
+    QVERIFY(!host->applyOptions(QStringLiteral("PageSize=Nonsense"), &error));
+    QVERIFY2(error.contains(QStringLiteral("PageSize")) && error.contains(QStringLiteral("Letter")), qPrintable(error));
+    QCOMPARE(QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), "PageSize")->choice), QStringLiteral("Letter"));
+    // A bad option in a list changes nothing of the list.
+    QVERIFY(!host->applyOptions(QStringLiteral("PageSize=A4 note=x PageSize=Bad"), &error));
+    QVERIFY(!host->printSettings()->contains(QStringLiteral("note")));
+
+    QVERIFY(host->applyOptions(QStringLiteral("PageSize=A4 note='two words' copies=2"), &error));
+    QCOMPARE(QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), "PageSize")->choice), QStringLiteral("A4"));
+    QVERIFY(!host->printSettings()->contains(QStringLiteral("PageSize")));
+    QCOMPARE(host->printSettings()->value(QStringLiteral("note")), QStringLiteral("two words"));
+}
+
+void HostTest::jobOptions()
+{
+    QTemporaryDir dir;
+    const QString ppd = TestSupport::writePPD(dir, QStringLiteral("j.ppd"), QStringLiteral(R"(
+*OpenGroup: InstallableOptions/Installed Options
+*OpenUI *Option2/Duplex Unit: Boolean
+*DefaultOption2: True
+*Option2 True/Installed: ""
+*Option2 False/Not Installed: ""
+*CloseUI: *Option2
+*CloseGroup: InstallableOptions
+*OpenUI *Duplex/Two-Sided: PickOne
+*DefaultDuplex: None
+*Duplex None/Off: ""
+*Duplex DuplexNoTumble/Long Edge: ""
+*CloseUI: *Duplex
+)"));
+    auto host = TestSupport::openHost(ppd);
+    QVERIFY(host);
+    QString error;
+    QVERIFY(host->applyOptions(QStringLiteral("Duplex=DuplexNoTumble zeta=1 alpha='x y'"), &error));
+    PrintDialogHost::OptionList expected{{"Duplex", "DuplexNoTumble"}, {"PageSize", "Letter"},
+                                         {"alpha", "x y"}, {"zeta", "1"}};
+    QCOMPARE(host->jobOptions(), expected);
+}
+
+void HostTest::bundle()
+{
+    QTemporaryDir dir;
+    auto b = TestSupport::bundleWithInfo(dir, {{"UseMergedPDE", true}, {"DEBUG", "NO"}, {"CFBundleIdentifier", "org.example"}});
+    QVERIFY(b);
+    QCOMPARE(b->objectForInfoDictionaryKey(QStringLiteral("UseMergedPDE")).typeId(), int(QMetaType::Bool));
+    QCOMPARE(b->bundleIdentifier(), QStringLiteral("org.example"));
+    QVERIFY(b->pathForResource(QStringLiteral("Nothing"), QStringLiteral("plist")).isNull());
+
+    auto embedded = PDEBundle::embedded();
+    QVERIFY(embedded);
+    QCOMPARE(embedded->objectForInfoDictionaryKey(QStringLiteral("UseMergedPDE")).toString(), QStringLiteral("YES"));
+    QVERIFY(!embedded->pathForResource(QStringLiteral("velmora-c5500"), QStringLiteral("ppd")).isEmpty());
+    embedded->setLanguage(QStringLiteral("de"));
+    QCOMPARE(embedded->language(), QStringLiteral("de"));
+    QCOMPARE(embedded->localizedString(QStringLiteral("UserID"), QStringLiteral("Localizable")), QStringLiteral("Benutzer-ID"));
+    QCOMPARE(embedded->localizedString(QStringLiteral("NoSuchKey"), QStringLiteral("Localizable")), QStringLiteral("NoSuchKey"));
+    embedded->setLanguage(QStringLiteral("xx"));
+    QCOMPARE(embedded->language(), QStringLiteral("en"));
+
+    QString error;
+    QVERIFY(!PDEBundle::open(dir.filePath(QStringLiteral("nowhere")), &error));
+    QVERIFY(error.contains(QStringLiteral("Info.json")));
+    QFile bad(dir.filePath(QStringLiteral("Info.json")));
+    QVERIFY(bad.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    bad.write("[1,2");
+    bad.close();
+    QVERIFY(!PDEBundle::open(dir.path(), &error));
+    QVERIFY(error.contains(QStringLiteral("not a JSON object")));
+}
+
+QTEST_MAIN(HostTest)
+#include "tst_host.moc"
