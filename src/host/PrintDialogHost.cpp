@@ -23,6 +23,18 @@ ppd_option_t* choiceOption(ppd_file_t* ppd, const QString& key)
     return o && o->num_choices > 0 ? o : nullptr;
 }
 
+bool hasTranslationsForUser(ppd_file_t* ppd)
+{
+    const ppd_attr_t* languages = ppdFindAttr(ppd, "cupsLanguages", nullptr);
+    if (!languages || !languages->value)
+        return false;
+    cups_lang_t* lang = cupsLangDefault();
+    const QString user = QString::fromUtf8(lang ? lang->language : "C");
+    const QString base = user.section(QLatin1Char('_'), 0, 0);
+    const QStringList offered = QString::fromUtf8(languages->value).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return offered.contains(user) || offered.contains(base);
+}
+
 bool isAcceptedChoice(ppd_option_t* o, const QByteArray& choice)
 {
     if (ppdFindChoice(o, choice.constData()))
@@ -61,7 +73,10 @@ bool PrintDialogHost::openPPD(const QString& path, QString* error)
         return false;
     }
     m_ppdPath = path;
-    ppdLocalize(m_ppd);
+    // libcups keeps only the translations for the user's language; when the
+    // PPD offers that language, its texts are replaced by the translations.
+    if (hasTranslationsForUser(m_ppd))
+        ppdLocalize(m_ppd);
     ppdMarkDefaults(m_ppd);
     return true;
 }
@@ -257,6 +272,9 @@ bool PrintDialogHost::willChangePPDOptionKeyValue(const QString& option, const Q
     const QByteArray value = choice.toUtf8();
     if (!isAcceptedChoice(o, value))
         return false;
+    // Approving the choice that is already marked changes nothing.
+    if (const ppd_choice_t* marked = ppdFindMarkedChoice(m_ppd, key.constData()); marked && value == marked->choice)
+        return true;
     const OptionList before = markedChoices();
     ppdMarkOption(m_ppd, key.constData(), value.constData());
     int count = 0;

@@ -30,7 +30,7 @@ void MRPDEAttribute::restoreValues()
     const int status = m_modelDelegate ? PMPrintSettingsGetValue(m_modelDelegate->printSettings(), m_keyword, &value)
                                        : int(kPMInvalidParameter);
     if (status != kPMNoError)
-        _PDELog(this, QStringLiteral("PDEAttribute: Error::(%@) Unable to restore ppdAttribute(%@)"), description(), m_keyword);
+        _PDELog(this, QStringLiteral("PDEAttribute: Error::(%@) Unable to restore ppdAttribute(%@)"), this, m_keyword);
     if (!value.isNull())
         m_attributeValue = value;
 }

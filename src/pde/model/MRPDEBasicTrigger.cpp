@@ -23,8 +23,7 @@ void MRPDEBasicTrigger::observeValue(MRPDE_MACFeature* feature)
     if (!feature || !feature->currentValue())
         return;
     setIsSet(feature->currentValue()->keyword() == m_featureValue);
-    PDELogTriggerEvaluation(this, QStringLiteral("B_TRIGGER"), QStringLiteral("PDEBasicTrigger (control) : observeValueForKeyPath: %@"),
-                            description());
+    PDELogTriggerEvaluation(this, QStringLiteral("B_TRIGGER"), QStringLiteral("PDEBasicTrigger (control) : observeValueForKeyPath: %@"));
 }
 
 QString MRPDEBasicTrigger::description() const

@@ -43,8 +43,7 @@ void MRPDEComplexTrigger::observeMember(PDETriggerProtocol* member)
     default:
         break;
     }
-    PDELogTriggerEvaluation(this, QStringLiteral("C_TRIGGER"), QStringLiteral("PDEComplexTrigger (control): observeValueForKeyPath: %@"),
-                            description());
+    PDELogTriggerEvaluation(this, QStringLiteral("C_TRIGGER"), QStringLiteral("PDEComplexTrigger (control): observeValueForKeyPath: %@"));
 }
 
 QString MRPDEComplexTrigger::description() const

@@ -55,7 +55,7 @@ MRPDE_MACFeature::MRPDE_MACFeature(ppd_option_t* option, MRPDE_MACChangeHandlerM
         restoreValues();
     }
     _PDELog(this, QStringLiteral("*"));
-    _PDELog(this, QStringLiteral("PDE_MACFeature- CreatedFeature - %@"), description());
+    _PDELog(this, QStringLiteral("PDE_MACFeature- CreatedFeature - %@"), this);
     _PDELog(this, QStringLiteral("*"));
 }
 
@@ -132,7 +132,7 @@ void MRPDE_MACFeature::restoreValues()
     const int status = m_modelDelegate ? PMPrintSettingsGetValue(m_modelDelegate->printSettings(), m_keyword, &value)
                                        : int(kPMInvalidParameter);
     if (status != kPMNoError)
-        _PDELog(this, QStringLiteral("Error::(%@) Unable to restore ppdAttribute(%@)"), description(), m_keyword);
+        _PDELog(this, QStringLiteral("Error::(%@) Unable to restore ppdAttribute(%@)"), this, m_keyword);
     if (value.isNull() && m_modelDelegate && m_modelDelegate->ppd()) {
         if (const ppd_choice_t* marked = ppdFindMarkedChoice(m_modelDelegate->ppd(), m_keyword.toUtf8().constData()))
             value = QString::fromUtf8(marked->choice);

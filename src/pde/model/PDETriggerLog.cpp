@@ -1,15 +1,15 @@
 #include "PDETriggerLog.h"
 
 #include "PDELog.h"
+#include "PDETriggerProtocol.h"
 
-void PDELogTriggerEvaluation(const void* sender, const QString& tag, const QString& format, const QString& description)
+void PDELogTriggerEvaluation(const PDETriggerProtocol* trigger, const QString& tag, const QString& format)
 {
     if (!PDEDebugEnabled())
         return;
-    const QString tilde29(29, QLatin1Char('~'));
     for (int i = 0; i < 3; ++i)
-        _PDELog(sender, QStringLiteral("'"));
-    _PDELog(sender, tilde29 + tag + QString(28, QLatin1Char('~')));
-    _PDELog(sender, format, description);
-    _PDELog(sender, QString(63, QLatin1Char('~')));
+        _PDELog(trigger, QStringLiteral("'"));
+    _PDELog(trigger, QString(29, QLatin1Char('~')) + tag + QString(28, QLatin1Char('~')));
+    _PDELog(trigger, format, trigger);
+    _PDELog(trigger, QString(63, QLatin1Char('~')));
 }
