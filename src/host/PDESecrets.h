@@ -1,0 +1,9 @@
+#pragma once
+#include <QString>
+
+// Which job options hold secrets (passwords, PINs). Their values travel with
+// the job only: never into a log line, a saved preset or any file.
+class PDESecrets {
+public:
+    static bool isSecretKey(const QString& key);
+};
