@@ -5,7 +5,7 @@
 bool PDESecrets::isSecretKey(const QString& key)
 {
     // Password and PIN options of the maker's PPDs and of IPP ("job-password").
-    static const QRegularExpression secret(QStringLiteral("pass(word|wd|code)|pin(code)?$|^(new|confirm)?pin|pin[_-]?code"),
+    static const QRegularExpression secret(QStringLiteral("pass(word|wd|code)|pin(code)?$|^pin[_-]?code"),
                                            QRegularExpression::CaseInsensitiveOption);
     return secret.match(key).hasMatch();
 }
