@@ -56,6 +56,9 @@ public:
     QMetaObject::Connection observeCurrentValue(QObject* receiver, std::function<void(MRPDE_MACFeature*)> handler,
                                                 bool initial);
 
+    // How many observers the current value has (teardown leaves none behind).
+    int observerCount() const { return receivers(SIGNAL(currentValueChanged(MRPDE_MACFeature*))); }
+
 signals:
     void currentValueChanged(MRPDE_MACFeature* feature);
 

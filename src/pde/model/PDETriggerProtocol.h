@@ -16,6 +16,9 @@ public:
     // `initial` is set. The connection ends with the receiver.
     QMetaObject::Connection observeIsSet(QObject* receiver, std::function<void(PDETriggerProtocol*)> handler, bool initial);
 
+    // How many observers the state has.
+    int observerCount() const { return receivers(SIGNAL(isSetChanged(PDETriggerProtocol*))); }
+
 signals:
     void isSetChanged(PDETriggerProtocol* trigger);
 
