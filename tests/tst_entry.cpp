@@ -30,6 +30,9 @@ private slots:
     // These turn the process-wide debug switch on, so they come last.
     void panelsForType();
     void versionProbes();
+
+private:
+    QTemporaryDir m_dir;
 };
 
 void EntryTest::standalonePanelDecision_data()
@@ -130,8 +133,7 @@ void EntryTest::commandLine_data()
     QTest::addColumn<int>("status");
     QTest::addColumn<QString>("message");
 
-    QTemporaryDir* dir = new QTemporaryDir;  // lives as long as the test process
-    const QString notPPD = dir->filePath(QStringLiteral("notes.ppd"));
+    const QString notPPD = m_dir.filePath(QStringLiteral("notes.ppd"));
     QFile f(notPPD);
     f.open(QIODevice::WriteOnly);
     f.write("just some text\n");
