@@ -16,4 +16,65 @@
         <translation>なし</translation>
     </message>
 </context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>社外秘</translation>
+    </message>
+    <message>
+        <source>Draft</source>
+        <translation>下書き</translation>
+    </message>
+    <message>
+        <source>LongEdge</source>
+        <translation>長辺とじ</translation>
+    </message>
+    <message>
+        <source>ShortEdge</source>
+        <translation>短辺とじ</translation>
+    </message>
+    <message>
+        <source>HoldForUser</source>
+        <translation>解除まで保留</translation>
+    </message>
+</context>
+<context>
+    <name>ManualMarginPDELocalizable</name>
+    <message>
+        <source>None</source>
+        <translation>余白なし</translation>
+    </message>
+    <message>
+        <source>BindingMargin</source>
+        <translation>とじしろ</translation>
+    </message>
+    <message>
+        <source>ImageShift</source>
+        <translation>画像シフト</translation>
+    </message>
+</context>
+<context>
+    <name>SpecialPagePDELocalizable</name>
+    <message>
+        <source>None</source>
+        <translation>特殊ページなし</translation>
+    </message>
+    <message>
+        <source>Cover</source>
+        <translation>表紙</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <translation>合紙</translation>
+    </message>
+    <message>
+        <source>Exception</source>
+        <translation>例外ページ</translation>
+    </message>
+</context>
 </TS>

@@ -1,13 +1,11 @@
 #include "MRPDEChoice.h"
 
 #include "PDELog.h"
+#include "PDEStringExtension.h"
 #include "PDEVersionChecks.h"
 
 #include <QSet>
-#include <QStringDecoder>
 #include <cups/ppd.h>
-
-static constexpr int kUTF8Encoding = 4;
 
 std::shared_ptr<MRPDEChoice> MRPDEChoice::choiceWithChoice(ppd_choice_t* choice)
 {
@@ -31,9 +29,10 @@ void MRPDEChoice::initialize(ppd_choice_t* choice, const char* className)
     if (!initialized.contains(className)) {
         initialized.insert(className);
         RunningOn105OrLater();
-        _PDELog(nullptr, QStringLiteral("Encoding set as %i"), kUTF8Encoding);
+        _PDELog(nullptr, QStringLiteral("Encoding set as %i"), ppdEncoding());
     }
     m_choice = choice;
+    // libcups keeps both as fixed character fields: absent means empty.
     if (!choice || !choice->text[0])
         _PDELog(this, QStringLiteral("choice->text is NULL!"));
     if (!choice || !choice->choice[0])
@@ -44,32 +43,22 @@ MRPDEChoice::~MRPDEChoice() = default;
 
 int MRPDEChoice::ppdEncoding()
 {
-    return kUTF8Encoding;
+    return kPDEUTF8StringEncoding;
 }
 
-QString MRPDEChoice::userTitle()
+QString MRPDEChoice::userTitle() const
 {
-    if (m_userTitle.isNull() && m_choice) {
-        QStringDecoder decoder(QStringDecoder::Utf8, QStringDecoder::Flag::Stateless);
-        const QString text = decoder(QByteArrayView(m_choice->text, qstrnlen(m_choice->text, PPD_MAX_TEXT)));
-        if (!decoder.hasError())
-            m_userTitle = text;
-    }
+    if (m_userTitle.isNull() && m_choice)
+        m_userTitle = stringWithCString(m_choice->text, PPD_MAX_TEXT, ppdEncoding());
     if (m_userTitle.isNull())
         _PDELog(this, QStringLiteral("could not create userTitle!"));
     return m_userTitle;
 }
 
-QString MRPDEChoice::ppdTitle()
+QString MRPDEChoice::ppdTitle() const
 {
-    if (m_ppdTitle.isNull() && m_choice) {
-        const QByteArray keyword(m_choice->choice, qstrnlen(m_choice->choice, PPD_MAX_NAME));
-        bool ascii = true;
-        for (char c : keyword)
-            ascii = ascii && uchar(c) < 128;
-        if (ascii)
-            m_ppdTitle = QString::fromLatin1(keyword);
-    }
+    if (m_ppdTitle.isNull() && m_choice)
+        m_ppdTitle = stringWithCString(m_choice->choice, PPD_MAX_NAME, kPDEASCIIStringEncoding);
     if (m_ppdTitle.isNull())
         _PDELog(this, QStringLiteral("could not create ppdTitle!"));
     return m_ppdTitle;
@@ -77,10 +66,10 @@ QString MRPDEChoice::ppdTitle()
 
 bool MRPDEChoice::isDefaultChoice() const
 {
-    return m_choice && m_choice->option && qstrncmp(m_choice->choice, m_choice->option->defchoice, PPD_MAX_NAME) == 0;
+    return m_choice && m_choice->option && strncmp(m_choice->choice, m_choice->option->defchoice, PPD_MAX_NAME) == 0;
 }
 
-QString MRPDEChoice::description()
+QString MRPDEChoice::description() const
 {
     int position = 0, count = 0;
     bool marked = false;
