@@ -4,6 +4,8 @@
 #include "MRPDEAttribute.h"
 #include "MRPDE_MACChangeHandlerModel.h"
 #include "MRPDE_MACFeature.h"
+#include "MRPDE_MACFirstEventHandler.h"
+#include "PDELogSink.h"
 #include "PDEBundle.h"
 #include "PDEPanel.h"
 #include "PDEUserInfo.h"
@@ -78,6 +80,10 @@ const char kOptions[] = R"(
 *OrderDependency: 20 AnySetup *USERID
 *DefaultUSERID: None
 *CloseUI: *USERID
+*OpenUI *PINCode/PIN: PickOne
+*OrderDependency: 20 AnySetup *PINCode
+*DefaultPINCode: None
+*CloseUI: *PINCode
 *UIConstraints: *Option2 False *Duplex DuplexNoTumble
 *UIConstraints: *Option2 False *Duplex DuplexTumble
 *UIConstraints: *Option3 None *StapleLocation
@@ -139,6 +145,8 @@ private slots:
     void saveRestoreRoundTrip();
     void restoreKeepsUnknownChoice();
     void attributes();
+    // Turns the process-wide debug switch on, so it comes last.
+    void secretsNeverLogged();
 
 private:
     QTemporaryDir m_dir;
@@ -520,6 +528,29 @@ void ModelTest::attributes()
     QString error;
     QVERIFY(model.saveValuesAndReturnError(&error));
     QVERIFY(!host->printSettings()->contains(QStringLiteral("NickName")));
+}
+
+void ModelTest::secretsNeverLogged()
+{
+    QTemporaryDir dir;
+    MRPDE_MACFirstEventHandler entry;
+    entry.initWithBundle(TestSupport::bundleWithInfo(dir, {{"DEBUG", "YES"}}));
+    QVERIFY(MRPDE_MACFirstEventHandler::debug());
+    PDELogCapture log;
+    auto host = TestSupport::openHost(m_ppd);
+    host->printSettings()->setValue(QStringLiteral("PINCode"), QStringLiteral("90210"));
+    MRPDE_MACChangeHandlerModel model(m_bundle, host.get());
+    PDEFeaturePtr pin = model.featureWithKey(QStringLiteral("PINCode"));
+    QCOMPARE(pin->currentValue()->keyword(), QStringLiteral("90210"));
+    pin->setCurrentValue(PDE_MACChoice::choiceWithKeywordDisplayString(QStringLiteral("4711"), QStringLiteral("4711")));
+    QString error;
+    model.saveValuesAndReturnError(&error);
+    model.restoreValuesAndReturnError(&error);
+    model.PPDOptionKeyValueDidChange(QStringLiteral("PINCode"), QStringLiteral("4711"));
+    QVERIFY(!log.lines().isEmpty());
+    QVERIFY(log.lines().filter(QStringLiteral("PINCode")).size() > 2);
+    for (const QString& line : log.lines())
+        QVERIFY2(!line.contains(QStringLiteral("4711")) && !line.contains(QStringLiteral("90210")), qPrintable(line));
 }
 
 QTEST_MAIN(ModelTest)

@@ -15,6 +15,170 @@
         <source>None</source>
         <translation>Keine</translation>
     </message>
+    <message>
+        <source>Graphics/Paper</source>
+        <translation>Grafik/Papier</translation>
+    </message>
+    <message>
+        <source>Job Handling</source>
+        <translation>Auftragsverwaltung</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Endverarbeitung</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sicherheit</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Stufen</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>KEY_DocType</source>
+        <translation>Dokumenttyp:</translation>
+    </message>
+    <message>
+        <source>KEY_XrayContrast</source>
+        <translation>Röntgenkontrast:</translation>
+    </message>
+    <message>
+        <source>KEY_VELResolution</source>
+        <translation>Auflösung:</translation>
+    </message>
+    <message>
+        <source>KEY_SaveMode</source>
+        <translation>Tonersparmodus:</translation>
+    </message>
+    <message>
+        <source>KEY_Darkness</source>
+        <translation>Druckdichte:</translation>
+    </message>
+    <message>
+        <source>KEY_DarkenText</source>
+        <translation>Text abdunkeln:</translation>
+    </message>
+    <message>
+        <source>KEY_EdgeEnhance</source>
+        <translation>Kantenverbesserung:</translation>
+    </message>
+    <message>
+        <source>KEY_FineEdge</source>
+        <translation>Feine Kanten:</translation>
+    </message>
+    <message>
+        <source>KEY_Trapping</source>
+        <translation>Überfüllung:</translation>
+    </message>
+    <message>
+        <source>KEY_ColorModel</source>
+        <translation>Farbmodus:</translation>
+    </message>
+    <message>
+        <source>KEY_BlackOptimization</source>
+        <translation>Schwarzoptimierung:</translation>
+    </message>
+    <message>
+        <source>KEY_CMYKByPass</source>
+        <translation>CMYK-Umgehung:</translation>
+    </message>
+    <message>
+        <source>KEY_VELSimulator</source>
+        <translation>Farbsimulation:</translation>
+    </message>
+    <message>
+        <source>KEY_RGBColor</source>
+        <translation>RGB-Farbe:</translation>
+    </message>
+    <message>
+        <source>KEY_HalftoneLPI</source>
+        <translation>Rasterweite:</translation>
+    </message>
+    <message>
+        <source>KEY_UserDefinedColor</source>
+        <translation>Benutzerdefinierte Farbe:</translation>
+    </message>
+    <message>
+        <source>KEY_Brightness</source>
+        <translation>Helligkeit:</translation>
+    </message>
+    <message>
+        <source>KEY_Contrast</source>
+        <translation>Kontrast:</translation>
+    </message>
+    <message>
+        <source>KEY_Saturation</source>
+        <translation>Sättigung:</translation>
+    </message>
+    <message>
+        <source>KEY_RCBalance</source>
+        <translation>Rot-Cyan-Balance:</translation>
+    </message>
+    <message>
+        <source>KEY_GMBalance</source>
+        <translation>Grün-Magenta-Balance:</translation>
+    </message>
+    <message>
+        <source>KEY_BYBalance</source>
+        <translation>Blau-Gelb-Balance:</translation>
+    </message>
+    <message>
+        <source>KEY_Skin</source>
+        <translation>Hauttöne:</translation>
+    </message>
+    <message>
+        <source>KEY_Grass</source>
+        <translation>Grüntöne:</translation>
+    </message>
+    <message>
+        <source>KEY_Sky</source>
+        <translation>Himmel:</translation>
+    </message>
+    <message>
+        <source>KEY_PreferredColorCheck</source>
+        <translation>Bevorzugte Farbe</translation>
+    </message>
+    <message>
+        <source>KEY_MediaType</source>
+        <translation>Papiertyp:</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsOption</source>
+        <translation>Trennblätter:</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsSource</source>
+        <translation>Trennblattzufuhr:</translation>
+    </message>
+    <message>
+        <source>KEY_SkipBlankpages</source>
+        <translation>Leere Seiten überspringen</translation>
+    </message>
+    <message>
+        <source>KEY_CurlMode</source>
+        <translation>Papierwellung verringern</translation>
+    </message>
+    <message>
+        <source>KEY_ReverseDuplex</source>
+        <translation>Duplex in umgekehrter Reihenfolge</translation>
+    </message>
+    <message>
+        <source>(%@-%@ Alphanumeric)</source>
+        <translation>(%@-%@ alphanumerisch)</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedOptionPDELocalizable</name>
@@ -75,6 +239,377 @@
     <message>
         <source>Exception</source>
         <translation>Ausnahmeseiten</translation>
+    </message>
+</context>
+<context>
+    <name>JobControls</name>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Kopien:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Seiten:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Alle</translation>
+    </message>
+    <message>
+        <source>&amp;Range:</source>
+        <translation>&amp;Bereich:</translation>
+    </message>
+    <message>
+        <source>e.g. 1-3, 5</source>
+        <translation>z. B. 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Paper si&amp;ze:</source>
+        <translation>Papier&amp;format:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>Aus&amp;richtung:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges per sheet:</source>
+        <translation>Seiten pro Bla&amp;tt:</translation>
+    </message>
+    <message>
+        <source>Co&amp;ver page:</source>
+        <translation>De&amp;ckblatt:</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Hochformat</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Querformat</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Hochformat, gedreht</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Querformat, gedreht</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Verschlusssache</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Vertraulich</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Geheim</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Nicht klassifiziert</translation>
+    </message>
+    <message>
+        <source>The paper size %1 cannot be used with this printer's installed options.</source>
+        <translation>Das Papierformat %1 kann mit den installierten Optionen dieses Druckers nicht verwendet werden.</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+</context>
+<context>
+    <name>LpCommandDialog</name>
+    <message>
+        <source>Print Command</source>
+        <translation>Druckbefehl</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue, so nothing is printed. This command prints the documents with the chosen settings on a queue that uses this PPD (change the name after -d to your queue's name):</source>
+        <translation>Dieser Drucker ist eine PPD-Datei ohne CUPS-Warteschlange, daher wird nichts gedruckt. Dieser Befehl druckt die Dokumente mit den gewählten Einstellungen auf einer Warteschlange, die diese PPD verwendet (ersetzen Sie den Namen nach -d durch den Namen Ihrer Warteschlange):</translation>
+    </message>
+    <message>
+        <source>Passwords and PINs are shown as &lt;hidden&gt;: put yours in their place before running the command.</source>
+        <translation>Kennwörter und PINs erscheinen als &lt;hidden&gt;: Setzen Sie Ihre eigenen ein, bevor Sie den Befehl ausführen.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Kopieren</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Copied to the clipboard.</source>
+        <translation>In die Zwischenablage kopiert.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelTab</name>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>Diese Seite hat keine Einstellungen.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialogWindow</name>
+    <message>
+        <source>Print</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Dr&amp;ucker:</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>V&amp;oreinstellungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Sichern unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Entfernen</translation>
+    </message>
+    <message>
+        <source>Documents:</source>
+        <translation>Dokumente:</translation>
+    </message>
+    <message>
+        <source>Add &amp;Files…</source>
+        <translation>Date&amp;ien hinzufügen…</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Auftrag</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Hilfe</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Drucken</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The printer cannot be used: %1</source>
+        <translation>Der Drucker kann nicht verwendet werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 (sample PPD file)</source>
+        <translation>%1 (Beispiel-PPD-Datei)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file)</source>
+        <translation>%1 (PPD-Datei)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file %2)</source>
+        <translation>%1 (PPD-Datei %2)</translation>
+    </message>
+    <message>
+        <source>Other PPD File…</source>
+        <translation>Andere PPD-Datei…</translation>
+    </message>
+    <message>
+        <source>Choose a PPD File</source>
+        <translation>PPD-Datei wählen</translation>
+    </message>
+    <message>
+        <source>PPD files (*.ppd *.PPD);;All files (*)</source>
+        <translation>PPD-Dateien (*.ppd *.PPD);;Alle Dateien (*)</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Standardeinstellungen</translation>
+    </message>
+    <message>
+        <source>None (no CUPS queue)</source>
+        <translation>Keine (keine CUPS-Warteschlange)</translation>
+    </message>
+    <message>
+        <source>Presets are kept with a CUPS queue; a PPD file has none.</source>
+        <translation>Voreinstellungen gehören zu einer CUPS-Warteschlange; eine PPD-Datei hat keine.</translation>
+    </message>
+    <message>
+        <source>Presets cannot be read: %1</source>
+        <translation>Die Voreinstellungen können nicht gelesen werden: %1</translation>
+    </message>
+    <message>
+        <source>The printer's default settings are used.</source>
+        <translation>Die Standardeinstellungen des Druckers werden verwendet.</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; chosen.</source>
+        <translation>Voreinstellung „%1“ gewählt.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Voreinstellung sichern</translation>
+    </message>
+    <message>
+        <source>Save the current settings as the preset:</source>
+        <translation>Die aktuellen Einstellungen als Voreinstellung sichern:</translation>
+    </message>
+    <message>
+        <source>The preset cannot be saved: %1</source>
+        <translation>Die Voreinstellung kann nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; saved. Passwords and PINs are not kept in presets.</source>
+        <translation>Voreinstellung „%1“ gesichert. Kennwörter und PINs werden in Voreinstellungen nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Die Voreinstellung „%1“ entfernen?</translation>
+    </message>
+    <message>
+        <source>The preset cannot be deleted: %1</source>
+        <translation>Die Voreinstellung kann nicht entfernt werden: %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; deleted.</source>
+        <translation>Voreinstellung „%1“ entfernt.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Zu druckende Dokumente</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>&amp;lp-Befehl zeigen…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>Dieser Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: Stattdessen wird der Befehl gezeigt, der mit diesen Einstellungen druckt.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Fügen Sie zuerst die zu druckenden Dokumente hinzu.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Übersicht</translation>
+    </message>
+    <message>
+        <source>%1 cannot be left yet: check its settings first.</source>
+        <translation>%1 kann noch nicht verlassen werden: Prüfen Sie zuerst die Einstellungen.</translation>
+    </message>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>Diese Seite hat keine Einstellungen.</translation>
+    </message>
+    <message>
+        <source>No settings to summarize</source>
+        <translation>Keine Einstellungen</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(verborgen)</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 auf %2 gesetzt</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>Um einen Konflikt zu lösen: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>die Einstellungen von %1 sind unvollständig</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>Der Auftrag wurde nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>es gibt kein Dokument zum Drucken</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: Der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>der Drucker ist keine CUPS-Warteschlange, und es wurde keine PPD-Datei angegeben</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>es wurde kein Drucker geöffnet</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>es kann keine Spool-Datei angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() wurde nicht aufgerufen</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>der Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: es wurde nichts gesendet</translation>
     </message>
 </context>
 </TS>

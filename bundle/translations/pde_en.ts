@@ -15,6 +15,170 @@
         <source>None</source>
         <translation>None</translation>
     </message>
+    <message>
+        <source>Graphics/Paper</source>
+        <translation>Graphics/Paper</translation>
+    </message>
+    <message>
+        <source>Job Handling</source>
+        <translation>Job Handling</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finishing</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Security</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Levels</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Paper</translation>
+    </message>
+    <message>
+        <source>KEY_DocType</source>
+        <translation>Document Type:</translation>
+    </message>
+    <message>
+        <source>KEY_XrayContrast</source>
+        <translation>X-Ray Contrast:</translation>
+    </message>
+    <message>
+        <source>KEY_VELResolution</source>
+        <translation>Resolution:</translation>
+    </message>
+    <message>
+        <source>KEY_SaveMode</source>
+        <translation>Toner Save:</translation>
+    </message>
+    <message>
+        <source>KEY_Darkness</source>
+        <translation>Print Density:</translation>
+    </message>
+    <message>
+        <source>KEY_DarkenText</source>
+        <translation>Darken Text:</translation>
+    </message>
+    <message>
+        <source>KEY_EdgeEnhance</source>
+        <translation>Edge Enhancement:</translation>
+    </message>
+    <message>
+        <source>KEY_FineEdge</source>
+        <translation>Fine Edge:</translation>
+    </message>
+    <message>
+        <source>KEY_Trapping</source>
+        <translation>Trapping:</translation>
+    </message>
+    <message>
+        <source>KEY_ColorModel</source>
+        <translation>Color Mode:</translation>
+    </message>
+    <message>
+        <source>KEY_BlackOptimization</source>
+        <translation>Black Optimization:</translation>
+    </message>
+    <message>
+        <source>KEY_CMYKByPass</source>
+        <translation>CMYK Bypass:</translation>
+    </message>
+    <message>
+        <source>KEY_VELSimulator</source>
+        <translation>Color Simulation:</translation>
+    </message>
+    <message>
+        <source>KEY_RGBColor</source>
+        <translation>RGB Color:</translation>
+    </message>
+    <message>
+        <source>KEY_HalftoneLPI</source>
+        <translation>Halftone Screen:</translation>
+    </message>
+    <message>
+        <source>KEY_UserDefinedColor</source>
+        <translation>User-Defined Color:</translation>
+    </message>
+    <message>
+        <source>KEY_Brightness</source>
+        <translation>Brightness:</translation>
+    </message>
+    <message>
+        <source>KEY_Contrast</source>
+        <translation>Contrast:</translation>
+    </message>
+    <message>
+        <source>KEY_Saturation</source>
+        <translation>Saturation:</translation>
+    </message>
+    <message>
+        <source>KEY_RCBalance</source>
+        <translation>Red-Cyan Balance:</translation>
+    </message>
+    <message>
+        <source>KEY_GMBalance</source>
+        <translation>Green-Magenta Balance:</translation>
+    </message>
+    <message>
+        <source>KEY_BYBalance</source>
+        <translation>Blue-Yellow Balance:</translation>
+    </message>
+    <message>
+        <source>KEY_Skin</source>
+        <translation>Skin Tones:</translation>
+    </message>
+    <message>
+        <source>KEY_Grass</source>
+        <translation>Greenery:</translation>
+    </message>
+    <message>
+        <source>KEY_Sky</source>
+        <translation>Sky:</translation>
+    </message>
+    <message>
+        <source>KEY_PreferredColorCheck</source>
+        <translation>Preferred Color</translation>
+    </message>
+    <message>
+        <source>KEY_MediaType</source>
+        <translation>Paper Type:</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsOption</source>
+        <translation>Separator Sheets:</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsSource</source>
+        <translation>Separator Source:</translation>
+    </message>
+    <message>
+        <source>KEY_SkipBlankpages</source>
+        <translation>Skip Blank Pages</translation>
+    </message>
+    <message>
+        <source>KEY_CurlMode</source>
+        <translation>Reduce Paper Curl</translation>
+    </message>
+    <message>
+        <source>KEY_ReverseDuplex</source>
+        <translation>Reverse Duplex Order</translation>
+    </message>
+    <message>
+        <source>(%@-%@ Alphanumeric)</source>
+        <translation>(%@-%@ Alphanumeric)</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedOptionPDELocalizable</name>
@@ -75,6 +239,377 @@
     <message>
         <source>Exception</source>
         <translation>Exceptions</translation>
+    </message>
+</context>
+<context>
+    <name>JobControls</name>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies:</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;All</translation>
+    </message>
+    <message>
+        <source>&amp;Range:</source>
+        <translation>&amp;Range:</translation>
+    </message>
+    <message>
+        <source>e.g. 1-3, 5</source>
+        <translation>e.g. 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Paper si&amp;ze:</source>
+        <translation>Paper si&amp;ze:</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientation:</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges per sheet:</source>
+        <translation>Pa&amp;ges per sheet:</translation>
+    </message>
+    <message>
+        <source>Co&amp;ver page:</source>
+        <translation>Co&amp;ver page:</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Landscape</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Reverse portrait</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Reverse landscape</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classified</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidential</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Top secret</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Unclassified</translation>
+    </message>
+    <message>
+        <source>The paper size %1 cannot be used with this printer's installed options.</source>
+        <translation>The paper size %1 cannot be used with this printer's installed options.</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>All</translation>
+    </message>
+</context>
+<context>
+    <name>LpCommandDialog</name>
+    <message>
+        <source>Print Command</source>
+        <translation>Print Command</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue, so nothing is printed. This command prints the documents with the chosen settings on a queue that uses this PPD (change the name after -d to your queue's name):</source>
+        <translation>This printer is a PPD file without a CUPS queue, so nothing is printed. This command prints the documents with the chosen settings on a queue that uses this PPD (change the name after -d to your queue's name):</translation>
+    </message>
+    <message>
+        <source>Passwords and PINs are shown as &lt;hidden&gt;: put yours in their place before running the command.</source>
+        <translation>Passwords and PINs are shown as &lt;hidden&gt;: put yours in their place before running the command.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copy</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Copied to the clipboard.</source>
+        <translation>Copied to the clipboard.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelTab</name>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>This panel has no settings to show.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialogWindow</name>
+    <message>
+        <source>Print</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Print&amp;er:</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>Prese&amp;ts:</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Save As…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
+    </message>
+    <message>
+        <source>Documents:</source>
+        <translation>Documents:</translation>
+    </message>
+    <message>
+        <source>Add &amp;Files…</source>
+        <translation>Add &amp;Files…</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Job</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Setting</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Help</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Print</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The printer cannot be used: %1</source>
+        <translation>The printer cannot be used: %1</translation>
+    </message>
+    <message>
+        <source>%1 (sample PPD file)</source>
+        <translation>%1 (sample PPD file)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file)</source>
+        <translation>%1 (PPD file)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file %2)</source>
+        <translation>%1 (PPD file %2)</translation>
+    </message>
+    <message>
+        <source>Other PPD File…</source>
+        <translation>Other PPD File…</translation>
+    </message>
+    <message>
+        <source>Choose a PPD File</source>
+        <translation>Choose a PPD File</translation>
+    </message>
+    <message>
+        <source>PPD files (*.ppd *.PPD);;All files (*)</source>
+        <translation>PPD files (*.ppd *.PPD);;All files (*)</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Default settings</translation>
+    </message>
+    <message>
+        <source>None (no CUPS queue)</source>
+        <translation>None (no CUPS queue)</translation>
+    </message>
+    <message>
+        <source>Presets are kept with a CUPS queue; a PPD file has none.</source>
+        <translation>Presets are kept with a CUPS queue; a PPD file has none.</translation>
+    </message>
+    <message>
+        <source>Presets cannot be read: %1</source>
+        <translation>Presets cannot be read: %1</translation>
+    </message>
+    <message>
+        <source>The printer's default settings are used.</source>
+        <translation>The printer's default settings are used.</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; chosen.</source>
+        <translation>Preset &quot;%1&quot; chosen.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Save Preset</translation>
+    </message>
+    <message>
+        <source>Save the current settings as the preset:</source>
+        <translation>Save the current settings as the preset:</translation>
+    </message>
+    <message>
+        <source>The preset cannot be saved: %1</source>
+        <translation>The preset cannot be saved: %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; saved. Passwords and PINs are not kept in presets.</source>
+        <translation>Preset &quot;%1&quot; saved. Passwords and PINs are not kept in presets.</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Delete the preset &quot;%1&quot;?</translation>
+    </message>
+    <message>
+        <source>The preset cannot be deleted: %1</source>
+        <translation>The preset cannot be deleted: %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; deleted.</source>
+        <translation>Preset &quot;%1&quot; deleted.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Print %1</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Documents to Print</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>Show &amp;lp Command…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Add the documents to print first.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Summary</translation>
+    </message>
+    <message>
+        <source>%1 cannot be left yet: check its settings first.</source>
+        <translation>%1 cannot be left yet: check its settings first.</translation>
+    </message>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>This panel has no settings to show.</translation>
+    </message>
+    <message>
+        <source>No settings to summarize</source>
+        <translation>No settings to summarize</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(hidden)</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 set to %2</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>To resolve a conflict, %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>the settings of %1 are not complete</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Not printed: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>The job was not printed: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>there is no document to print</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: the folder cannot be made</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 cannot be written</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>the printer is not a CUPS queue and no PPD file was given</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>no printer was opened</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>no spool file can be made: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() was not called</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>the printer is a PPD file without a CUPS queue: nothing was sent</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,170 @@
         <source>None</source>
         <translation>Aucun</translation>
     </message>
+    <message>
+        <source>Graphics/Paper</source>
+        <translation>Graphiques/Papier</translation>
+    </message>
+    <message>
+        <source>Job Handling</source>
+        <translation>Gestion des travaux</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>Finition</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>Sécurité</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>Niveaux</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>Papier</translation>
+    </message>
+    <message>
+        <source>KEY_DocType</source>
+        <translation>Type de document :</translation>
+    </message>
+    <message>
+        <source>KEY_XrayContrast</source>
+        <translation>Contraste radiographique :</translation>
+    </message>
+    <message>
+        <source>KEY_VELResolution</source>
+        <translation>Résolution :</translation>
+    </message>
+    <message>
+        <source>KEY_SaveMode</source>
+        <translation>Économie de toner :</translation>
+    </message>
+    <message>
+        <source>KEY_Darkness</source>
+        <translation>Densité d'impression :</translation>
+    </message>
+    <message>
+        <source>KEY_DarkenText</source>
+        <translation>Assombrir le texte :</translation>
+    </message>
+    <message>
+        <source>KEY_EdgeEnhance</source>
+        <translation>Amélioration des contours :</translation>
+    </message>
+    <message>
+        <source>KEY_FineEdge</source>
+        <translation>Contours fins :</translation>
+    </message>
+    <message>
+        <source>KEY_Trapping</source>
+        <translation>Recouvrement :</translation>
+    </message>
+    <message>
+        <source>KEY_ColorModel</source>
+        <translation>Mode couleur :</translation>
+    </message>
+    <message>
+        <source>KEY_BlackOptimization</source>
+        <translation>Optimisation du noir :</translation>
+    </message>
+    <message>
+        <source>KEY_CMYKByPass</source>
+        <translation>Contournement CMJN :</translation>
+    </message>
+    <message>
+        <source>KEY_VELSimulator</source>
+        <translation>Simulation des couleurs :</translation>
+    </message>
+    <message>
+        <source>KEY_RGBColor</source>
+        <translation>Couleur RVB :</translation>
+    </message>
+    <message>
+        <source>KEY_HalftoneLPI</source>
+        <translation>Trame de demi-teinte :</translation>
+    </message>
+    <message>
+        <source>KEY_UserDefinedColor</source>
+        <translation>Couleur personnalisée :</translation>
+    </message>
+    <message>
+        <source>KEY_Brightness</source>
+        <translation>Luminosité :</translation>
+    </message>
+    <message>
+        <source>KEY_Contrast</source>
+        <translation>Contraste :</translation>
+    </message>
+    <message>
+        <source>KEY_Saturation</source>
+        <translation>Saturation :</translation>
+    </message>
+    <message>
+        <source>KEY_RCBalance</source>
+        <translation>Équilibre rouge-cyan :</translation>
+    </message>
+    <message>
+        <source>KEY_GMBalance</source>
+        <translation>Équilibre vert-magenta :</translation>
+    </message>
+    <message>
+        <source>KEY_BYBalance</source>
+        <translation>Équilibre bleu-jaune :</translation>
+    </message>
+    <message>
+        <source>KEY_Skin</source>
+        <translation>Tons chair :</translation>
+    </message>
+    <message>
+        <source>KEY_Grass</source>
+        <translation>Verdure :</translation>
+    </message>
+    <message>
+        <source>KEY_Sky</source>
+        <translation>Ciel :</translation>
+    </message>
+    <message>
+        <source>KEY_PreferredColorCheck</source>
+        <translation>Couleur préférée</translation>
+    </message>
+    <message>
+        <source>KEY_MediaType</source>
+        <translation>Type de papier :</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsOption</source>
+        <translation>Intercalaires :</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsSource</source>
+        <translation>Source des intercalaires :</translation>
+    </message>
+    <message>
+        <source>KEY_SkipBlankpages</source>
+        <translation>Ignorer les pages blanches</translation>
+    </message>
+    <message>
+        <source>KEY_CurlMode</source>
+        <translation>Réduire le gondolage</translation>
+    </message>
+    <message>
+        <source>KEY_ReverseDuplex</source>
+        <translation>Recto verso inversé</translation>
+    </message>
+    <message>
+        <source>(%@-%@ Alphanumeric)</source>
+        <translation>(%@-%@ alphanumériques)</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedOptionPDELocalizable</name>
@@ -75,6 +239,377 @@
     <message>
         <source>Exception</source>
         <translation>Pages d'exception</translation>
+    </message>
+</context>
+<context>
+    <name>JobControls</name>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>&amp;Copies :</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>Pages :</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Toutes</translation>
+    </message>
+    <message>
+        <source>&amp;Range:</source>
+        <translation>&amp;Plage :</translation>
+    </message>
+    <message>
+        <source>e.g. 1-3, 5</source>
+        <translation>p. ex. 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Paper si&amp;ze:</source>
+        <translation>Format du papi&amp;er :</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>&amp;Orientation :</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges per sheet:</source>
+        <translation>Pages par &amp;feuille :</translation>
+    </message>
+    <message>
+        <source>Co&amp;ver page:</source>
+        <translation>Page de &amp;garde :</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>Portrait</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>Paysage</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>Portrait inversé</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>Paysage inversé</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>Classifié</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>Confidentiel</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>Secret</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>Non classifié</translation>
+    </message>
+    <message>
+        <source>The paper size %1 cannot be used with this printer's installed options.</source>
+        <translation>Le format de papier %1 ne peut pas être utilisé avec les options installées de cette imprimante.</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Toutes</translation>
+    </message>
+</context>
+<context>
+    <name>LpCommandDialog</name>
+    <message>
+        <source>Print Command</source>
+        <translation>Commande d’impression</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue, so nothing is printed. This command prints the documents with the chosen settings on a queue that uses this PPD (change the name after -d to your queue's name):</source>
+        <translation>Cette imprimante est un fichier PPD sans file d’attente CUPS : rien n’est imprimé. Cette commande imprime les documents avec les réglages choisis sur une file d’attente qui utilise ce PPD (remplacez le nom après -d par celui de votre file d’attente) :</translation>
+    </message>
+    <message>
+        <source>Passwords and PINs are shown as &lt;hidden&gt;: put yours in their place before running the command.</source>
+        <translation>Les mots de passe et les codes PIN apparaissent comme &lt;hidden&gt; : remplacez-les par les vôtres avant de lancer la commande.</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>&amp;Copier</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Copied to the clipboard.</source>
+        <translation>Copiée dans le presse-papiers.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelTab</name>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>Ce panneau n’a aucun réglage à afficher.</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialogWindow</name>
+    <message>
+        <source>Print</source>
+        <translation>Imprimer</translation>
+    </message>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Imprima&amp;nte :</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>Pré&amp;réglages :</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Suppri&amp;mer</translation>
+    </message>
+    <message>
+        <source>Documents:</source>
+        <translation>Documents :</translation>
+    </message>
+    <message>
+        <source>Add &amp;Files…</source>
+        <translation>Ajo&amp;uter des fichiers…</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>Tâche</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>&amp;Aide</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>&amp;Imprimer</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The printer cannot be used: %1</source>
+        <translation>L’imprimante ne peut pas être utilisée : %1</translation>
+    </message>
+    <message>
+        <source>%1 (sample PPD file)</source>
+        <translation>%1 (fichier PPD d’exemple)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file)</source>
+        <translation>%1 (fichier PPD)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file %2)</source>
+        <translation>%1 (fichier PPD %2)</translation>
+    </message>
+    <message>
+        <source>Other PPD File…</source>
+        <translation>Autre fichier PPD…</translation>
+    </message>
+    <message>
+        <source>Choose a PPD File</source>
+        <translation>Choisir un fichier PPD</translation>
+    </message>
+    <message>
+        <source>PPD files (*.ppd *.PPD);;All files (*)</source>
+        <translation>Fichiers PPD (*.ppd *.PPD);;Tous les fichiers (*)</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>Réglages par défaut</translation>
+    </message>
+    <message>
+        <source>None (no CUPS queue)</source>
+        <translation>Aucun (pas de file d’attente CUPS)</translation>
+    </message>
+    <message>
+        <source>Presets are kept with a CUPS queue; a PPD file has none.</source>
+        <translation>Les préréglages sont conservés avec une file d’attente CUPS ; un fichier PPD n’en a pas.</translation>
+    </message>
+    <message>
+        <source>Presets cannot be read: %1</source>
+        <translation>Les préréglages ne peuvent pas être lus : %1</translation>
+    </message>
+    <message>
+        <source>The printer's default settings are used.</source>
+        <translation>Les réglages par défaut de l’imprimante sont utilisés.</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; chosen.</source>
+        <translation>Préréglage « %1 » choisi.</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>Enregistrer le préréglage</translation>
+    </message>
+    <message>
+        <source>Save the current settings as the preset:</source>
+        <translation>Enregistrer les réglages actuels comme préréglage :</translation>
+    </message>
+    <message>
+        <source>The preset cannot be saved: %1</source>
+        <translation>Le préréglage ne peut pas être enregistré : %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; saved. Passwords and PINs are not kept in presets.</source>
+        <translation>Préréglage « %1 » enregistré. Les mots de passe et les codes PIN ne sont pas conservés dans les préréglages.</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>Supprimer le préréglage « %1 » ?</translation>
+    </message>
+    <message>
+        <source>The preset cannot be deleted: %1</source>
+        <translation>Le préréglage ne peut pas être supprimé : %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; deleted.</source>
+        <translation>Préréglage « %1 » supprimé.</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Documents à imprimer</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>Afficher la commande &amp;lp…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>Cette imprimante est un fichier PPD sans file d’attente CUPS : la commande qui imprime avec ces réglages est affichée à la place.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Ajoutez d’abord les documents à imprimer.</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>Résumé</translation>
+    </message>
+    <message>
+        <source>%1 cannot be left yet: check its settings first.</source>
+        <translation>Impossible de quitter %1 pour l’instant : vérifiez d’abord ses réglages.</translation>
+    </message>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>Ce panneau n’a aucun réglage à afficher.</translation>
+    </message>
+    <message>
+        <source>No settings to summarize</source>
+        <translation>Aucun réglage à résumer</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(masqué)</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 réglé sur %2</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>Pour résoudre un conflit : %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>les réglages de %1 sont incomplets</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Non imprimé : %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>La tâche n’a pas été imprimée : %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>il n’y a aucun document à imprimer</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1 : le dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 ne peut pas être écrit</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>l’imprimante n’est pas une file d’attente CUPS et aucun fichier PPD n’a été donné</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>aucune imprimante n’a été ouverte</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>aucun fichier d’impression ne peut être créé : %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() n’a pas été appelée</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>l’imprimante est un fichier PPD sans file d’attente CUPS : rien n’a été envoyé</translation>
     </message>
 </context>
 </TS>

@@ -15,6 +15,170 @@
         <source>None</source>
         <translation>なし</translation>
     </message>
+    <message>
+        <source>Graphics/Paper</source>
+        <translation>グラフィックス/用紙</translation>
+    </message>
+    <message>
+        <source>Job Handling</source>
+        <translation>ジョブ処理</translation>
+    </message>
+    <message>
+        <source>Finishing</source>
+        <translation>仕上げ</translation>
+    </message>
+    <message>
+        <source>Security</source>
+        <translation>セキュリティ</translation>
+    </message>
+    <message>
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message>
+        <source>Color</source>
+        <translation>カラー</translation>
+    </message>
+    <message>
+        <source>Levels</source>
+        <translation>レベル</translation>
+    </message>
+    <message>
+        <source>Paper</source>
+        <translation>用紙</translation>
+    </message>
+    <message>
+        <source>KEY_DocType</source>
+        <translation>原稿の種類:</translation>
+    </message>
+    <message>
+        <source>KEY_XrayContrast</source>
+        <translation>X線コントラスト:</translation>
+    </message>
+    <message>
+        <source>KEY_VELResolution</source>
+        <translation>解像度:</translation>
+    </message>
+    <message>
+        <source>KEY_SaveMode</source>
+        <translation>トナー節約:</translation>
+    </message>
+    <message>
+        <source>KEY_Darkness</source>
+        <translation>印刷濃度:</translation>
+    </message>
+    <message>
+        <source>KEY_DarkenText</source>
+        <translation>文字を濃くする:</translation>
+    </message>
+    <message>
+        <source>KEY_EdgeEnhance</source>
+        <translation>エッジ強調:</translation>
+    </message>
+    <message>
+        <source>KEY_FineEdge</source>
+        <translation>ファインエッジ:</translation>
+    </message>
+    <message>
+        <source>KEY_Trapping</source>
+        <translation>トラッピング:</translation>
+    </message>
+    <message>
+        <source>KEY_ColorModel</source>
+        <translation>カラーモード:</translation>
+    </message>
+    <message>
+        <source>KEY_BlackOptimization</source>
+        <translation>黒の最適化:</translation>
+    </message>
+    <message>
+        <source>KEY_CMYKByPass</source>
+        <translation>CMYKバイパス:</translation>
+    </message>
+    <message>
+        <source>KEY_VELSimulator</source>
+        <translation>カラーシミュレーション:</translation>
+    </message>
+    <message>
+        <source>KEY_RGBColor</source>
+        <translation>RGBカラー:</translation>
+    </message>
+    <message>
+        <source>KEY_HalftoneLPI</source>
+        <translation>ハーフトーン:</translation>
+    </message>
+    <message>
+        <source>KEY_UserDefinedColor</source>
+        <translation>ユーザー定義カラー:</translation>
+    </message>
+    <message>
+        <source>KEY_Brightness</source>
+        <translation>明るさ:</translation>
+    </message>
+    <message>
+        <source>KEY_Contrast</source>
+        <translation>コントラスト:</translation>
+    </message>
+    <message>
+        <source>KEY_Saturation</source>
+        <translation>彩度:</translation>
+    </message>
+    <message>
+        <source>KEY_RCBalance</source>
+        <translation>レッド-シアン:</translation>
+    </message>
+    <message>
+        <source>KEY_GMBalance</source>
+        <translation>グリーン-マゼンタ:</translation>
+    </message>
+    <message>
+        <source>KEY_BYBalance</source>
+        <translation>ブルー-イエロー:</translation>
+    </message>
+    <message>
+        <source>KEY_Skin</source>
+        <translation>肌色:</translation>
+    </message>
+    <message>
+        <source>KEY_Grass</source>
+        <translation>緑:</translation>
+    </message>
+    <message>
+        <source>KEY_Sky</source>
+        <translation>空:</translation>
+    </message>
+    <message>
+        <source>KEY_PreferredColorCheck</source>
+        <translation>優先色</translation>
+    </message>
+    <message>
+        <source>KEY_MediaType</source>
+        <translation>用紙の種類:</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsOption</source>
+        <translation>合紙:</translation>
+    </message>
+    <message>
+        <source>KEY_SeparatorsSource</source>
+        <translation>合紙の給紙元:</translation>
+    </message>
+    <message>
+        <source>KEY_SkipBlankpages</source>
+        <translation>白紙を飛ばす</translation>
+    </message>
+    <message>
+        <source>KEY_CurlMode</source>
+        <translation>カール軽減</translation>
+    </message>
+    <message>
+        <source>KEY_ReverseDuplex</source>
+        <translation>両面逆順</translation>
+    </message>
+    <message>
+        <source>(%@-%@ Alphanumeric)</source>
+        <translation>(%@-%@ 英数字)</translation>
+    </message>
 </context>
 <context>
     <name>AdvancedOptionPDELocalizable</name>
@@ -75,6 +239,377 @@
     <message>
         <source>Exception</source>
         <translation>例外ページ</translation>
+    </message>
+</context>
+<context>
+    <name>JobControls</name>
+    <message>
+        <source>&amp;Copies:</source>
+        <translation>部数(&amp;C):</translation>
+    </message>
+    <message>
+        <source>Pages:</source>
+        <translation>ページ:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>すべて(&amp;A)</translation>
+    </message>
+    <message>
+        <source>&amp;Range:</source>
+        <translation>範囲(&amp;R):</translation>
+    </message>
+    <message>
+        <source>e.g. 1-3, 5</source>
+        <translation>例: 1-3, 5</translation>
+    </message>
+    <message>
+        <source>Paper si&amp;ze:</source>
+        <translation>用紙サイズ(&amp;Z):</translation>
+    </message>
+    <message>
+        <source>&amp;Orientation:</source>
+        <translation>方向(&amp;O):</translation>
+    </message>
+    <message>
+        <source>Pa&amp;ges per sheet:</source>
+        <translation>1枚あたりのページ数(&amp;G):</translation>
+    </message>
+    <message>
+        <source>Co&amp;ver page:</source>
+        <translation>カバーページ(&amp;V):</translation>
+    </message>
+    <message>
+        <source>Portrait</source>
+        <translation>縦</translation>
+    </message>
+    <message>
+        <source>Landscape</source>
+        <translation>横</translation>
+    </message>
+    <message>
+        <source>Reverse portrait</source>
+        <translation>縦 (180度回転)</translation>
+    </message>
+    <message>
+        <source>Reverse landscape</source>
+        <translation>横 (180度回転)</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Standard</source>
+        <translation>標準</translation>
+    </message>
+    <message>
+        <source>Classified</source>
+        <translation>機密</translation>
+    </message>
+    <message>
+        <source>Confidential</source>
+        <translation>部外秘</translation>
+    </message>
+    <message>
+        <source>Secret</source>
+        <translation>秘密</translation>
+    </message>
+    <message>
+        <source>Top secret</source>
+        <translation>極秘</translation>
+    </message>
+    <message>
+        <source>Unclassified</source>
+        <translation>機密指定なし</translation>
+    </message>
+    <message>
+        <source>The paper size %1 cannot be used with this printer's installed options.</source>
+        <translation>用紙サイズ %1 は、このプリンタに取り付けられているオプションでは使用できません。</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+</context>
+<context>
+    <name>LpCommandDialog</name>
+    <message>
+        <source>Print Command</source>
+        <translation>印刷コマンド</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue, so nothing is printed. This command prints the documents with the chosen settings on a queue that uses this PPD (change the name after -d to your queue's name):</source>
+        <translation>このプリンタは CUPS キューのない PPD ファイルのため、何もプリントされません。次のコマンドは、この PPD を使うキューで、選んだ設定で書類をプリントします (-d の後の名前をお使いのキューの名前に変えてください):</translation>
+    </message>
+    <message>
+        <source>Passwords and PINs are shown as &lt;hidden&gt;: put yours in their place before running the command.</source>
+        <translation>パスワードと PIN は &lt;hidden&gt; と表示されています。コマンドを実行する前にご自分のものに置き換えてください。</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>コピー(&amp;C)</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Copied to the clipboard.</source>
+        <translation>クリップボードにコピーしました。</translation>
+    </message>
+</context>
+<context>
+    <name>PanelTab</name>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>このパネルに表示する設定はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>PrintDialogWindow</name>
+    <message>
+        <source>Print</source>
+        <translation>プリント</translation>
+    </message>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>プリンタ(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>プリセット(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>別名で保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Documents:</source>
+        <translation>書類:</translation>
+    </message>
+    <message>
+        <source>Add &amp;Files…</source>
+        <translation>ファイルを追加(&amp;F)…</translation>
+    </message>
+    <message>
+        <source>Job</source>
+        <translation>ジョブ</translation>
+    </message>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>ヘルプ(&amp;H)</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>&amp;Print</source>
+        <translation>プリント(&amp;P)</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>The printer cannot be used: %1</source>
+        <translation>このプリンタは使用できません: %1</translation>
+    </message>
+    <message>
+        <source>%1 (sample PPD file)</source>
+        <translation>%1 (サンプル PPD ファイル)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file)</source>
+        <translation>%1 (PPD ファイル)</translation>
+    </message>
+    <message>
+        <source>%1 (PPD file %2)</source>
+        <translation>%1 (PPD ファイル %2)</translation>
+    </message>
+    <message>
+        <source>Other PPD File…</source>
+        <translation>その他の PPD ファイル…</translation>
+    </message>
+    <message>
+        <source>Choose a PPD File</source>
+        <translation>PPD ファイルを選択</translation>
+    </message>
+    <message>
+        <source>PPD files (*.ppd *.PPD);;All files (*)</source>
+        <translation>PPD ファイル (*.ppd *.PPD);;すべてのファイル (*)</translation>
+    </message>
+    <message>
+        <source>Default settings</source>
+        <translation>デフォルト設定</translation>
+    </message>
+    <message>
+        <source>None (no CUPS queue)</source>
+        <translation>なし (CUPS キューなし)</translation>
+    </message>
+    <message>
+        <source>Presets are kept with a CUPS queue; a PPD file has none.</source>
+        <translation>プリセットは CUPS キューに保存されます。PPD ファイルにはありません。</translation>
+    </message>
+    <message>
+        <source>Presets cannot be read: %1</source>
+        <translation>プリセットを読み込めません: %1</translation>
+    </message>
+    <message>
+        <source>The printer's default settings are used.</source>
+        <translation>プリンタのデフォルト設定を使用します。</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; chosen.</source>
+        <translation>プリセット「%1」を選択しました。</translation>
+    </message>
+    <message>
+        <source>Save Preset</source>
+        <translation>プリセットを保存</translation>
+    </message>
+    <message>
+        <source>Save the current settings as the preset:</source>
+        <translation>現在の設定を次のプリセットとして保存:</translation>
+    </message>
+    <message>
+        <source>The preset cannot be saved: %1</source>
+        <translation>プリセットを保存できません: %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; saved. Passwords and PINs are not kept in presets.</source>
+        <translation>プリセット「%1」を保存しました。パスワードと PIN はプリセットに保存されません。</translation>
+    </message>
+    <message>
+        <source>Delete the preset &quot;%1&quot;?</source>
+        <translation>プリセット「%1」を削除しますか?</translation>
+    </message>
+    <message>
+        <source>The preset cannot be deleted: %1</source>
+        <translation>プリセットを削除できません: %1</translation>
+    </message>
+    <message>
+        <source>Preset &quot;%1&quot; deleted.</source>
+        <translation>プリセット「%1」を削除しました。</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 をプリント</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>プリントする書類</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>lp コマンドを表示(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>このプリンタは CUPS キューのない PPD ファイルです。代わりに、これらの設定でプリントするコマンドを表示します。</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>先にプリントする書類を追加してください。</translation>
+    </message>
+    <message>
+        <source>Summary</source>
+        <translation>概要</translation>
+    </message>
+    <message>
+        <source>%1 cannot be left yet: check its settings first.</source>
+        <translation>%1 はまだ閉じられません。先に設定を確認してください。</translation>
+    </message>
+    <message>
+        <source>This panel has no settings to show.</source>
+        <translation>このパネルに表示する設定はありません。</translation>
+    </message>
+    <message>
+        <source>No settings to summarize</source>
+        <translation>概要に表示する設定はありません</translation>
+    </message>
+    <message>
+        <source>(hidden)</source>
+        <translation>(非表示)</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 を %2 に変更</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>競合を解決するため、%1しました。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>%1 の設定が完了していません</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>プリントしませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>ジョブはプリントされませんでした: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>プリントする書類がありません</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: フォルダを作成できません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>プリンタは CUPS キューではなく、PPD ファイルも指定されていません</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>プリンタが開かれていません</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>スプールファイルを作成できません: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() が呼び出されていません</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>プリンタは CUPS キューのない PPD ファイルです。何も送信されませんでした</translation>
     </message>
 </context>
 </TS>

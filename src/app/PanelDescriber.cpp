@@ -1,6 +1,7 @@
 #include "PanelDescriber.h"
 
 #include "PDEPanel.h"
+#include "PDEStepper.h"
 
 #include <QAbstractItemModel>
 #include <QAbstractSpinBox>
@@ -94,6 +95,9 @@ QJsonObject PanelDescriber::describeControl(QWidget* w, QWidget* view)
     } else if (auto* d = qobject_cast<QDateTimeEdit*>(w)) {
         o[QStringLiteral("type")] = QStringLiteral("datepicker");
         o[QStringLiteral("value")] = d->dateTime().toString(QStringLiteral("MM/dd/yyyy//HH:mm"));
+    } else if (auto* st = qobject_cast<PDEStepper*>(w)) {
+        o[QStringLiteral("type")] = QStringLiteral("stepper");
+        o[QStringLiteral("value")] = st->value();
     } else if (auto* s = qobject_cast<QAbstractSpinBox*>(w)) {
         o[QStringLiteral("type")] = QStringLiteral("stepper");
         o[QStringLiteral("value")] = s->property("value").toDouble();

@@ -70,6 +70,19 @@ PanelSession::~PanelSession()
     m_panels.clear();
 }
 
+void PanelSession::addPanel(std::shared_ptr<PDEPanel> panel)
+{
+    if (!panel)
+        return;
+    m_panels.append(panel);
+    QList<PDEPanel*> raw;
+    for (const auto& p : std::as_const(m_panels))
+        raw.append(p.get());
+    m_host->setPanels(raw);
+    QString ignored;
+    panel->restoreValuesAndReturnError(&ignored);
+}
+
 bool PanelSession::prepareToPrint(QString* refusal)
 {
     for (const auto& p : std::as_const(m_panels)) {

@@ -31,6 +31,9 @@ public:
     const QList<std::shared_ptr<PDEPanel>>& panels() const { return m_panels; }
     PDEBundle& bundle() { return *m_bundle; }
 
+    // Adds a panel after the plug-in's (a dialog's own panel): it is restored
+    // now, told about resolution changes and asked with the others when printing.
+    void addPanel(std::shared_ptr<PDEPanel> panel);
     // Every panel's print checks (where it has them) and save; false with the
     // refusing panel's alert text in *refusal when one refuses.
     bool prepareToPrint(QString* refusal);

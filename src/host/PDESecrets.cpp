@@ -2,6 +2,11 @@
 
 #include <QRegularExpression>
 
+QString PDESecrets::loggable(const QString& key, const QString& value)
+{
+    return isSecretKey(key) && !value.isEmpty() ? QStringLiteral("<hidden>") : value;
+}
+
 bool PDESecrets::isSecretKey(const QString& key)
 {
     // Password and PIN options of the maker's PPDs and of IPP ("job-password").

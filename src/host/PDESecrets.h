@@ -6,4 +6,6 @@
 class PDESecrets {
 public:
     static bool isSecretKey(const QString& key);
+    // The value as a log line may show it: "<hidden>" for a secret key.
+    static QString loggable(const QString& key, const QString& value);
 };

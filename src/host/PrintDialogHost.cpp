@@ -120,11 +120,36 @@ std::unique_ptr<PrintDialogHost> PrintDialogHost::openPrinter(const QString& que
     // The queue's saved options: PPD choices are marked, the rest become print settings.
     cupsMarkOptions(host->m_ppd, dest->num_options, dest->options);
     for (int i = 0; i < dest->num_options; ++i) {
-        if (!choiceOption(host->m_ppd, QString::fromUtf8(dest->options[i].name)))
+        const QString name = QString::fromUtf8(dest->options[i].name);
+        if (!choiceOption(host->m_ppd, name) && !isPrinterAttribute(name))
             host->m_settings.setValue(QString::fromUtf8(dest->options[i].name), QString::fromUtf8(dest->options[i].value));
     }
     cupsFreeDests(1, dest);
     return host;
+}
+
+bool PrintDialogHost::isPrinterAttribute(const QString& key)
+{
+    // What cupsGetDests2 reports about the printer as options (see its
+    // documentation), plus what CUPS 2.x reports beside it.
+    static const QStringList names{
+        QStringLiteral("auth-info-required"),
+        QStringLiteral("device-uri"),
+        QStringLiteral("printer-commands"),
+        QStringLiteral("printer-info"),
+        QStringLiteral("printer-is-accepting-jobs"),
+        QStringLiteral("printer-is-shared"),
+        QStringLiteral("printer-is-temporary"),
+        QStringLiteral("printer-location"),
+        QStringLiteral("printer-make-and-model"),
+        QStringLiteral("printer-mandatory-job-attributes"),
+        QStringLiteral("printer-state"),
+        QStringLiteral("printer-state-change-time"),
+        QStringLiteral("printer-state-reasons"),
+        QStringLiteral("printer-type"),
+        QStringLiteral("printer-uri-supported"),
+    };
+    return key.startsWith(QLatin1String("marker-")) || names.contains(key);
 }
 
 bool PrintDialogHost::validateOptionString(const QString& options, QString* error)

@@ -27,6 +27,9 @@ public:
     static std::unique_ptr<PrintDialogHost> openPrinter(const QString& queue, const QString& server, QString* error);
     ~PrintDialogHost() override;
 
+    // Whether a destination option describes the printer (its state, URI,
+    // markers) rather than being a job option.
+    static bool isPrinterAttribute(const QString& key);
     // Checks an option string written as for `lp -o` ("a=1 b='x y'").
     static bool validateOptionString(const QString& options, QString* error);
     // Applies options written as for `lp -o`: PPD options with choices are
@@ -52,6 +55,9 @@ public:
     void panelViewDidResize() override { emit panelViewResized(); }
 
 signals:
+    // The dialog's "application will update" notification: the window sends it
+    // after it changed a job setting that panels read (copies, layout, ...).
+    void update();
     void panelViewResized();
     // Options that conflict resolution changed, after the approval that caused it.
     void optionsChangedByResolution(const PrintDialogHost::OptionList& changes);

@@ -3,6 +3,14 @@
 #include "MRPDE_MACFirstEventHandler.h"
 #include "PDELogSink.h"
 
+QString PDEDescribe(const QVariantMap& map)
+{
+    QString out = QStringLiteral("{\n");
+    for (auto it = map.cbegin(); it != map.cend(); ++it)
+        out += QStringLiteral("    %1 = %2;\n").arg(it.key(), it.value().toString());
+    return out + QLatin1Char('}');
+}
+
 QString PDEAddress(const void* p)
 {
     return QStringLiteral("0x") + QString::number(quintptr(p), 16);

@@ -2,6 +2,7 @@
 #include <QList>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 #include <concepts>
 #include <memory>
 #include <type_traits>
@@ -36,6 +37,9 @@ QString PDEDescribe(const QList<T>& list)
         parts << QStringLiteral("    ") + PDEDescribe(e);
     return QStringLiteral("(\n") + parts.join(QStringLiteral(",\n")) + (parts.isEmpty() ? "" : "\n") + QStringLiteral(")");
 }
+
+// A map as "{ key = value; ... }", one entry a line.
+QString PDEDescribe(const QVariantMap& map);
 
 // "0x..." for a %p placeholder.
 QString PDEAddress(const void* p);

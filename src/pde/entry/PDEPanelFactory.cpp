@@ -1,16 +1,19 @@
 #include "PDEPanelFactory.h"
 
+#include "MRPDE_MACFinishingEH.h"
+#include "MRPDE_MACGraphicsPaperEH.h"
+#include "MRPDE_MACJobHandlingEH.h"
+#include "MRPDESecurityEH.h"
+
 namespace PDEPanelFactory {
 
-// A panel that is not part of this build yet has no maker and is left out
-// like a panel that fails to load.
 const QList<Generic>& genericPanels()
 {
     static const QList<Generic> list{
-        {"MRPDE_MACGraphicsPaperEH", "PDE_MACFirstEventHandler(CUPS): ERROR : Graphics PDE - Load Failed", nullptr},
-        {"MRPDE_MACJobHandlingEH", "PDE_MACFirstEventHandler(CUPS): ERROR : JobHandling PDE - Load Failed", nullptr},
-        {"MRPDE_MACFinishingEH", "PDE_MACFirstEventHandler(CUPS): ERROR : Finishing PDE - Load Failed", nullptr},
-        {"MRPDESecurityEH", "PDE_MACFirstEventHandler(CUPS): ERROR : Security PDE - Load Failed", nullptr},
+        {"MRPDE_MACGraphicsPaperEH", "PDE_MACFirstEventHandler(CUPS): ERROR : Graphics PDE - Load Failed", &MRPDE_MACGraphicsPaperEH::create},
+        {"MRPDE_MACJobHandlingEH", "PDE_MACFirstEventHandler(CUPS): ERROR : JobHandling PDE - Load Failed", &MRPDE_MACJobHandlingEH::create},
+        {"MRPDE_MACFinishingEH", "PDE_MACFirstEventHandler(CUPS): ERROR : Finishing PDE - Load Failed", &MRPDE_MACFinishingEH::create},
+        {"MRPDESecurityEH", "PDE_MACFirstEventHandler(CUPS): ERROR : Security PDE - Load Failed", &MRPDESecurityEH::create},
     };
     return list;
 }

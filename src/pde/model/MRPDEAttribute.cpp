@@ -3,6 +3,7 @@
 #include "MRPDE_MACChangeHandlerModel.h"
 #include "MRPDE_MACFirstEventHandler.h"
 #include "PDELog.h"
+#include "PDESecrets.h"
 #include "PDEUserInfo.h"
 #include "PMPrintSettings.h"
 
@@ -41,11 +42,12 @@ void MRPDEAttribute::saveValues()
         return;
     PMPrintSettings* settings = m_modelDelegate->printSettings();
     if (PMPrintSettingsSetValue(settings, m_keyword, m_attributeValue, false) != kPMNoError)
-        _PDELog(this, QStringLiteral("PDE_MACFeature: saveValues failed for keyword(%@) currentValue(%@) "), m_keyword, m_attributeValue);
+        _PDELog(this, QStringLiteral("PDE_MACFeature: saveValues failed for keyword(%@) currentValue(%@) "), m_keyword,
+                PDESecrets::loggable(m_keyword, m_attributeValue));
     if (MRPDE_MACFirstEventHandler::debug()) {
         QString readBack;
         if (PMPrintSettingsGetValue(settings, m_keyword, &readBack) == kPMNoError)
-            PDENSLog(QStringLiteral("SavedValuesPDEAttribute: keyword(%@) value(%@)"), m_keyword, readBack);
+            PDENSLog(QStringLiteral("SavedValuesPDEAttribute: keyword(%@) value(%@)"), m_keyword, PDESecrets::loggable(m_keyword, readBack));
         else
             PDENSLog(QStringLiteral("Error::Unable to find ppdAttribute(%@)"), m_keyword);
     }

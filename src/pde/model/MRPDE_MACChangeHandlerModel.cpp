@@ -3,6 +3,7 @@
 #include "PDEBundle.h"
 #include "PDELog.h"
 #include "PDEPluginCallback.h"
+#include "PDESecrets.h"
 
 #include <QDir>
 #include <QDirIterator>
@@ -93,13 +94,15 @@ bool MRPDE_MACChangeHandlerModel::willChangePPDOptionKeyValue(const QString& opt
     if (option.isNull() || choice.isNull() || !m_pdeCallBack
         || !m_pdeCallBack->respondsToOperation(Op::WillChangePPDOptionKeyValue))
         return false;
-    _PDELog(this, QStringLiteral("ChangeHandlerModel(Model): willChangePPDOptionKeyValue(%@->%@)"), option, choice);
+    _PDELog(this, QStringLiteral("ChangeHandlerModel(Model): willChangePPDOptionKeyValue(%@->%@)"), option,
+            PDESecrets::loggable(option, choice));
     return m_pdeCallBack->willChangePPDOptionKeyValue(option, choice);
 }
 
 void MRPDE_MACChangeHandlerModel::PPDOptionKeyValueDidChange(const QString& option, const QString& choice)
 {
-    _PDELog(this, QStringLiteral("ChangeHandlerModel(model): PPDOptionKeyValueDidChange(%@->%@)"), option, choice);
+    _PDELog(this, QStringLiteral("ChangeHandlerModel(model): PPDOptionKeyValueDidChange(%@->%@)"), option,
+            PDESecrets::loggable(option, choice));
     for (const PDEFeaturePtr& f : std::as_const(m_features)) {
         if (f->keyword() == option) {
             f->setCurrentValueWithChoiceWithKeyword(choice);
@@ -107,7 +110,7 @@ void MRPDE_MACChangeHandlerModel::PPDOptionKeyValueDidChange(const QString& opti
         }
     }
     _PDELog(this, QStringLiteral("ChangeHandlerModel(model): PPDOptionKeyValueDidChange: ERROR: option[%@] choice[%@]"), option,
-            choice);
+            PDESecrets::loggable(option, choice));
 }
 
 bool MRPDE_MACChangeHandlerModel::isInstallableOptionConstrainedWithChoice(const QString& choice, const QString& option) const

@@ -3,6 +3,7 @@
 #include "MRPDE_MACChangeHandlerModel.h"
 #include "MRPDE_MACFirstEventHandler.h"
 #include "PDELog.h"
+#include "PDESecrets.h"
 #include "PDEUserInfo.h"
 #include "PMPrintSettings.h"
 
@@ -69,7 +70,7 @@ void MRPDE_MACFeature::setCurrentValue(const PDEChoicePtr& value)
         return;
     if (!m_modelDelegate || !m_modelDelegate->willChangePPDOptionKeyValue(m_keyword, value->keyword()))
         return;
-    _PDELog(this, QStringLiteral("PDE_MacFeature: {%@}SetCurrentValue->%@"), m_keyword, value->keyword());
+    _PDELog(this, QStringLiteral("PDE_MacFeature: {%@}SetCurrentValue->%@"), m_keyword, PDESecrets::loggable(m_keyword, value->keyword()));
     m_currentValue = value;
     _PDELog(this, kSeparatorLine);
     emit currentValueChanged(this);
@@ -116,11 +117,12 @@ void MRPDE_MACFeature::saveValues()
     PMPrintSettings* settings = m_modelDelegate->printSettings();
     const QString value = m_currentValue ? m_currentValue->keyword() : QString();
     if (PMPrintSettingsSetValue(settings, m_keyword, value, false) != kPMNoError)
-        _PDELog(this, QStringLiteral("PDE_MACFeature: saveValues failed for keyword(%@) currentValue(%@) "), m_keyword, m_currentValue);
+        _PDELog(this, QStringLiteral("PDE_MACFeature: saveValues failed for keyword(%@) currentValue(%@) "), m_keyword,
+                PDESecrets::loggable(m_keyword, value));
     if (MRPDE_MACFirstEventHandler::debug()) {
         QString readBack;
         if (PMPrintSettingsGetValue(settings, m_keyword, &readBack) == kPMNoError)
-            PDENSLog(QStringLiteral("SavedValuesPDEFeature: keyword(%@) value(%@)"), m_keyword, readBack);
+            PDENSLog(QStringLiteral("SavedValuesPDEFeature: keyword(%@) value(%@)"), m_keyword, PDESecrets::loggable(m_keyword, readBack));
         else
             PDENSLog(QStringLiteral("Error:: Unable to find feature(%@)"), m_keyword);
     }
@@ -170,9 +172,13 @@ void MRPDE_MACFeature::setDefaultValueForOutsideFeature(const QString& keyword)
 
 QString MRPDE_MACFeature::description() const
 {
+    // A password's or PIN's value is never described.
+    const bool secret = PDESecrets::isSecretKey(m_keyword);
+    const QString hidden = QStringLiteral("<hidden>");
     return PDEStringWithFormat(QStringLiteral("%@: K(%@/%@) cv(%@) df(%@) choices(%@)"),
                                {PDEBaseDescription("MRPDE_MACFeature", this), PDEDescribe(m_keyword), PDEDescribe(m_displayString),
-                                PDEDescribe(m_currentValue), PDEDescribe(m_defaultValue), PDEDescribe(m_choices)});
+                                secret ? hidden : PDEDescribe(m_currentValue), secret ? hidden : PDEDescribe(m_defaultValue),
+                                PDEDescribe(m_choices)});
 }
 
 QMetaObject::Connection MRPDE_MACFeature::observeCurrentValue(QObject* receiver, std::function<void(MRPDE_MACFeature*)> handler,

@@ -1,0 +1,46 @@
+#include "HeadlessPrint.h"
+
+#include "CommandLine.h"
+#include "PanelSession.h"
+#include "PrintJob.h"
+
+#include <cstdio>
+
+namespace {
+void printLine(FILE* f, const QString& s)
+{
+    std::fprintf(f, "%s\n", s.toUtf8().constData());
+}
+
+int failWith(int status, const QString& error)
+{
+    printLine(stderr, QStringLiteral("print-panels: ") + escapeForLine(error));
+    return status;
+}
+}
+
+int HeadlessPrint::run(const CommandLine& cl)
+{
+    PrintJob job(cl.session.printer, cl.session.server);
+    job.setFiles(cl.files);
+    // A document that cannot be printed is found before anything is opened.
+    QString error;
+    if (!job.checkDocuments(&error))
+        return failWith(ExitBadInput, error);
+
+    std::unique_ptr<PanelSession> session = PanelSession::open(cl.session, &error);
+    if (!session)
+        return failWith(ExitBadInput, error);
+    QString refusal;
+    if (!session->prepareToPrint(&refusal))
+        return failWith(ExitRefused, refusal);
+
+    job.setOptions(session->host().jobOptions());
+    if (!job.submit())
+        return failWith(job.status() == PrintJob::Status::BadInput ? ExitBadInput : ExitFailure, job.errorString());
+    printLine(stdout, QStringLiteral("request id is %1-%2 (%3 file(s))")
+                          .arg(cl.session.printer.section(QLatin1Char('/'), 0, 0))
+                          .arg(job.jobId())
+                          .arg(job.files().size()));
+    return ExitOK;
+}

@@ -1,0 +1,51 @@
+#!/usr/bin/env bash
+# Builds print-panels and takes pictures of the real dialog on a virtual X
+# display: as it opens, with each panel of the plug-in selected, with the
+# summary, and (for a PPD file without a queue) the lp command it shows. They go to docs/screenshots/ (old pictures are replaced), with a
+# page that shows them all (docs/screenshots/README.md).
+#
+#   tools/screenshots.sh [print-panels arguments...]
+#
+# Without arguments the bundled sample printer is shown with README.md as
+# the document; any arguments are passed to print-panels instead
+# (e.g. --ppd FILE, --printer QUEUE, -o key=value, documents).
+set -euo pipefail
+cd "$(dirname "$0")/.."
+./setup
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo >/dev/null
+cmake --build build -j"$(nproc)" --target print-panels
+
+out=docs/screenshots
+mkdir -p "$out"
+rm -f "$out"/*.png
+[ $# -eq 0 ] && set -- README.md
+
+# English texts, whatever the caller's language; the window saves its own
+# pictures (QWidget::grab) and quits.
+LC_ALL=C.UTF-8 LANG=C.UTF-8 LANGUAGE=en \
+PRINT_PANELS_SCREENSHOTS="$PWD/$out" \
+  xvfb-run -a -s "-screen 0 1280x900x24" build/src/app/print-panels "$@" >/dev/null
+
+{
+  echo "# Screenshots of the print dialog"
+  echo
+  echo "Made by \`tools/screenshots.sh\` on a virtual 1280x900 display."
+  for f in "$out"/dialog.png "$out"/panel-*.png "$out"/summary.png "$out"/lp-command.png; do
+    [ -f "$f" ] || continue
+    name=$(basename "$f")
+    case "$name" in
+      dialog.png) title="The dialog as it opens" ;;
+      summary.png) title="Summary" ;;
+      lp-command.png) title="The lp command of a printer that is only a PPD file" ;;
+      panel-*)
+        n=${name#panel-}; slug=${n#*-}; slug=${slug%.png}
+        title="Panel $((10#${n%%-*})): ${slug//-/ }" ;;
+      *) title="$name" ;;
+    esac
+    echo
+    echo "## $title"
+    echo
+    echo "![$title]($name)"
+  done
+} > "$out/README.md"
+ls "$out"
