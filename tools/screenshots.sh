@@ -37,6 +37,10 @@ PRINT_PANELS_SCREENSHOTS="$PWD/$out" \
       dialog.png) title="The dialog as it opens" ;;
       summary.png) title="Summary" ;;
       lp-command.png) title="The lp command of a printer that is only a PPD file" ;;
+      panel-*-tab-*)
+        n=${name#panel-}; slug=${n#*-}; slug=${slug%.png}
+        panel=${slug%%-tab-*}; tab=${slug#*-tab-}; tab=${tab#*-}
+        title="Panel $((10#${n%%-*})): ${panel//-/ }, tab ${tab//-/ }" ;;
       panel-*)
         n=${name#panel-}; slug=${n#*-}; slug=${slug%.png}
         title="Panel $((10#${n%%-*})): ${slug//-/ }" ;;

@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QCollator>
 #include <QDir>
+#include <QTabWidget>
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -744,7 +745,7 @@ QStringList PrintDialogWindow::saveScreenshots(const QString& dir, QString* erro
         if (row == summaryRow)
             shoot(QStringLiteral("summary.png"));
         else
-            shoot(QStringLiteral("panel-%1-%2.png").arg(row + 1, 2, 10, QLatin1Char('0')).arg(slugOf(m_panels.at(row)->panelName())));
+            shootPanel(row, shoot);
     }
     // A printer that is only a PPD file: the lp command its main button shows.
     if (m_session && !isQueue()) {
@@ -761,6 +762,23 @@ QStringList PrintDialogWindow::saveScreenshots(const QString& dir, QString* erro
         }
     }
     return written;
+}
+
+void PrintDialogWindow::shootPanel(int row, const std::function<void(const QString&)>& shoot)
+{
+    const QString base = QStringLiteral("panel-%1-%2").arg(row + 1, 2, 10, QLatin1Char('0')).arg(slugOf(m_panels.at(row)->panelName()));
+    QWidget* view = m_panels.at(row)->panelView();
+    auto* tabs = view ? view->findChild<QTabWidget*>() : nullptr;
+    if (!tabs || tabs->count() < 2) {
+        shoot(base + QStringLiteral(".png"));
+        return;
+    }
+    // A panel with tabs: one picture of each tab, the first tab selected again after.
+    for (int i = 0; i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        shoot(QStringLiteral("%1-tab-%2-%3.png").arg(base).arg(i + 1).arg(slugOf(tabs->tabText(i))));
+    }
+    tabs->setCurrentIndex(0);
 }
 
 void PrintDialogWindow::retranslate()

@@ -5,6 +5,7 @@
 #include <QPointer>
 #include <QSize>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -61,6 +62,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    // Saves a picture of panel row, one of each tab where the panel has tabs.
+    void shootPanel(int row, const std::function<void(const QString&)>& shoot);
+
     enum EntryKind { QueueEntry, PPDEntry, BrowseEntry };
 
     void retranslate();
