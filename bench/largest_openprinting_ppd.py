@@ -9,8 +9,8 @@ DRIVER = "/usr/lib/cups/driver/openprinting-ppds"
 
 def main():
     loader = importlib.machinery.SourceFileLoader("openprinting_ppds", DRIVER)
-    spec = importlib.util.spec_from_loader("openprinting_ppds", loader)
-    module = importlib.util.module_from_spec(spec)
+    module_info = importlib.util.spec_from_loader("openprinting_ppds", loader)
+    module = importlib.util.module_from_spec(module_info)
     loader.exec_module(module)
     index = module.load()
     best = None

@@ -86,6 +86,7 @@ void PanelSession::addPanel(std::shared_ptr<PDEPanel> panel)
 bool PanelSession::prepareToPrint(QString* refusal)
 {
     for (const auto& p : std::as_const(m_panels)) {
+        PDEAlerts::clearLastAlertText();
         if (p->respondsToShouldPrint() && !p->shouldPrint()) {
             if (refusal) {
                 *refusal = PDEAlerts::lastAlertText();

@@ -36,6 +36,11 @@ void PDEAlerts::setHandler(Handler h)
     handler() = std::move(h);
 }
 
+void PDEAlerts::clearLastAlertText()
+{
+    lastText().clear();
+}
+
 QString PDEAlerts::lastAlertText()
 {
     return lastText();

@@ -21,4 +21,6 @@ public:
     static void setHandler(Handler handler);
     // The text of the last alert shown, for the command line's error output.
     static QString lastAlertText();
+    // Forgets the last alert, so that the next one can be told apart.
+    static void clearLastAlertText();
 };
