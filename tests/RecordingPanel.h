@@ -1,54 +1,54 @@
 #pragma once
 #include "PDEPanel.h"
 
+#include <QLabel>
 #include <QList>
 #include <QPair>
-#include <QSize>
-#include <QStringList>
-#include <QVariantMap>
 #include <memory>
 #include <optional>
 
-class PDEPluginCallback;
-class QWidget;
-
 // A panel of the tests' own, for dialogs whose behaviour does not depend on
-// which panels the plug-in offers: a real view with a label and a text field,
-// answers taken from its fields, and every protocol call it gets written to
-// a journal ("NAME:willShow", "NAME:shouldHide", ...) shared by the panels
-// of a test.
+// which panels the plug-in offers: a real view (in a parent of the panel's,
+// as a panel's view is), answers set by the test, and every protocol call it
+// gets written to a journal ("NAME:willShow", "NAME:shouldHide", ...) shared
+// by the panels of a test.
 class RecordingPanel : public PDEPanel {
 public:
-    RecordingPanel(const QString& name, QStringList* journal);
-    ~RecordingPanel() override;
+    RecordingPanel(const QString& name, QStringList* journal)
+        : m_name(name), m_journal(journal), m_viewParent(std::make_unique<QWidget>()),
+          m_view(new QLabel(QStringLiteral("Settings of ") + name, m_viewParent.get()))
+    {
+    }
 
-    QString panelKind() override;
+    QString panelKind() override { return QStringLiteral("org.printpanels.tests.") + m_name; }
     QString panelName() override { return m_name; }
-    QWidget* panelView() override { return m_view.get(); }
-    bool willShow() override;
-    bool shouldHide() override;
+    QWidget* panelView() override { return m_view; }
+    QWidget* viewParent() const { return m_viewParent.get(); }  // where the view belongs when not shown
+    bool willShow() override { return note("willShow"); }
+    bool shouldHide() override { return note("shouldHide") && allowHide; }
     bool respondsToShouldPrint() const override { return printAnswer.has_value(); }
-    bool shouldPrint() override;
+    bool shouldPrint() override { return note("shouldPrint") && printAnswer.value_or(true); }
     QVariantMap summaryInfo() override { return summary; }
-    QStringList supportedPPDOptionKeys() override { return summary.keys(); }
-    bool restoreValuesAndReturnError(QString* error) override;
-    bool saveValuesAndReturnError(QString* error) override;
-    void PPDOptionKeyValueDidChange(const QString& option, const QString& choice) override;
-    bool shouldShowHelp() override;
+    QStringList supportedPPDOptionKeys() override { return {}; }
+    bool restoreValuesAndReturnError(QString*) override { return note("restore"); }
+    bool saveValuesAndReturnError(QString*) override { return note("save"); }
+    void PPDOptionKeyValueDidChange(const QString& option, const QString& choice) override { changesReceived.append({option, choice}); }
+    bool shouldShowHelp() override { return note("help"); }
 
-    // Resizes the view and tells the dialog, as a panel whose content grew does.
-    void resizeView(PDEPluginCallback* callback, const QSize& size);
-
-    bool allowHide = true;             // shouldHide's answer
-    std::optional<bool> printAnswer;   // shouldPrint's answer; none: the panel has no print checks
-    QVariantMap summary;          // summaryInfo's answer
-    int helpRequests = 0;
-    QList<QPair<QString, QString>> changesReceived;  // PPDOptionKeyValueDidChange calls
+    bool allowHide = true;            // shouldHide's answer
+    std::optional<bool> printAnswer;  // shouldPrint's answer; none: the panel has no print checks
+    QVariantMap summary;              // summaryInfo's answer
+    QList<QPair<QString, QString>> changesReceived;
 
 private:
-    void note(const QString& call);
+    bool note(const char* call)
+    {
+        m_journal->append(m_name + QLatin1Char(':') + QLatin1String(call));
+        return true;
+    }
 
     QString m_name;
     QStringList* m_journal;
-    std::unique_ptr<QWidget> m_view;
+    std::unique_ptr<QWidget> m_viewParent;
+    QLabel* m_view;
 };

@@ -9,22 +9,22 @@
 #include <memory>
 
 // A cupsd of the tests' own: listening on 127.0.0.1 at a free port, with its
-// configuration, spool, cache, state and logs in a temporary folder, no
-// authentication, and a "capture" backend that keeps what every job brings.
-// It needs root (cupsd runs its backends as user lp); canRun() tells.
+// configuration, spool, cache, state and logs in a temporary folder (its own
+// ServerRoot), FileDevice Yes, a policy without authentication, and a
+// "capture" backend that keeps what every job brings. It needs root (cupsd
+// runs its backends as user lp); canRun() tells.
 //
-// Queues are made with lpadmin from a PPD, their device "capture:DIR". The
-// backend (root-owned, mode 0755, so it runs as lp) writes, for each run, the
-// arguments it got and the document it read into DIR, which belongs to lp.
+// Queues are made with lpadmin -P from a PPD, their device "capture:DIR". The
+// backend (root-owned, mode 0755, so it runs as lp) writes the arguments it
+// got and the document it read into DIR, which belongs to lp.
 class PrivateCupsServer {
 public:
     struct CapturedJob {
         int id = 0;
-        QStringList argv;                    // the backend's arguments: its path, job id, user, title, copies, options[, file]
-        QList<QByteArray> documents;         // what the backend read, once per run
+        QStringList argv;                    // the backend's: its path, job id, user, title, copies, options[, file]
+        QByteArray document;                 // what the backend read (the job's first document)
         QList<QByteArray> spooledDocuments;  // every document of the job as the server keeps it, in order
 
-        QString user() const { return argv.value(2); }
         QString title() const { return argv.value(3); }
         int copies() const { return argv.value(4).toInt(); }
         QString options() const { return argv.value(5); }
@@ -32,51 +32,40 @@ public:
         QMap<QString, QString> parsedOptions() const;
     };
 
-    PrivateCupsServer();
-    ~PrivateCupsServer();
+    PrivateCupsServer() = default;
+    ~PrivateCupsServer() { stop(); }
     PrivateCupsServer(const PrivateCupsServer&) = delete;
     PrivateCupsServer& operator=(const PrivateCupsServer&) = delete;
 
     // Whether a private cupsd can run here; *why says why not.
     static bool canRun(QString* why);
-
+    // Starts the server and points this process's libcups at it and at the
+    // clients' private home: call it before the process uses libcups.
     bool start(QString* error);
-    // Stops the server (its own process only) and waits for it to exit.
+    // Stops the server (its own process, by its pid) and waits for it to exit.
     void stop();
-    bool isRunning() const;
+    bool isRunning() const { return m_cupsd.state() != QProcess::NotRunning; }
 
-    quint16 port() const { return m_port; }
     // "127.0.0.1:PORT", for --server, lp -h and cupsSetServer.
-    QString address() const;
-    // Environment for clients of this server: HOME and CUPS_SERVERROOT in a
-    // private folder (no user's lpoptions or client.conf is read or written).
+    QString address() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
+    // HOME and CUPS_SERVERROOT of clients in a private folder (no user's
+    // lpoptions or client.conf is read or written).
     QStringList clientEnvironment() const;
-    // The same, set in this process. libcups reads it once per thread, at its
-    // first call: do this before the test process uses libcups.
-    void applyClientEnvironment() const;
-    // The private home of clients (where libcups keeps .cups/lpoptions).
-    QString clientHome() const;
+    QString clientHome() const { return path(QStringLiteral("client")); }
 
     // A queue from a PPD file, enabled and accepting jobs, its device a
     // capture folder of its own.
     bool addQueue(const QString& name, const QString& ppdPath, QString* error);
     // Runs a CUPS client program against this server ("-h ADDRESS" first).
     bool runClient(const QString& program, const QStringList& arguments, QString* output = nullptr) const;
-
-    // The jobs the backend has finished for the queue, by job id.
-    QList<CapturedJob> capturedJobs(const QString& queue) const;
-    // Waits until the backend has finished `count` jobs for the queue.
-    bool waitForJobs(const QString& queue, int count, int timeoutMs = 20000) const;
-    // An attribute of a job as the server reports it (Get-Job-Attributes),
-    // as text; a null string when the job or the attribute is unknown.
+    // Waits until the backend has finished job `id` of the queue.
+    bool waitForJob(const QString& queue, int id, CapturedJob* job, int timeoutMs = 20000) const;
+    // An attribute of a job as the server reports it, as text (null when unknown).
     QString jobAttribute(int jobId, const QString& name) const;
-    // The server's error log (for failure messages).
     QString errorLog() const;
 
 private:
-    QString path(const QString& relative) const;
-    QString captureDir(const QString& queue) const;
-    bool writeConfiguration(QString* error);
+    QString path(const QString& relative) const { return m_dir ? m_dir->filePath(relative) : QString(); }
 
     std::unique_ptr<QTemporaryDir> m_dir;
     QProcess m_cupsd;
