@@ -57,18 +57,15 @@ void MRPDE_MACTextFieldController::controlTextDidChange(QLineEdit* field)
     if (!field || !f)
         return;
     const QString text = field->text();
-    const bool minimumHolds = m_minLength == 0 || text.size() >= m_minLength;
-    const bool maximumHolds = m_maxLength == 0 || text.size() <= m_maxLength;
     // Otherwise the feature keeps its last valid text.
-    if (minimumHolds && maximumHolds)
+    if (minimumLengthHolds(text) && maximumLengthHolds(text))
         f->setCurrentValue(PDE_MACChoice::choiceWithKeywordDisplayString(text, text));
 }
 
 bool MRPDE_MACTextFieldController::controlTextShouldEndEditing(QLineEdit* field)
 {
     _PDELog(this, QStringLiteral(" UIDelegate --::-- textShouldEndEditing (%@) "), PDEDescribeControl(field));
-    const qsizetype length = field ? field->text().size() : 0;
-    const bool result = m_minLength == 0 || length >= m_minLength;
+    const bool result = minimumLengthHolds(field ? field->text() : QString());
     _PDELog(this, QStringLiteral(" UIDelegate --::-- textShouldEndEditing = %@ "), result ? QStringLiteral("YES") : QStringLiteral("NO"));
     return result;
 }

@@ -36,12 +36,15 @@ public:
                                                                                          qint64 maximum, qint64 minimum);
 
     // Delegate: the user changed the text.
-    void controlTextDidChange(QLineEdit* field);
+    virtual void controlTextDidChange(QLineEdit* field);
     // Delegate: may editing end? Only the minimum length is checked.
-    bool controlTextShouldEndEditing(QLineEdit* field);
+    virtual bool controlTextShouldEndEditing(QLineEdit* field);
 
 protected:
     void observeValueForKeyPath(const QString& keyPath, QObject* object, void* context) override;
+    // Whether the text's length keeps to minLength and to maxLength.
+    bool minimumLengthHolds(const QString& text) const { return m_minLength == 0 || text.size() >= m_minLength; }
+    bool maximumLengthHolds(const QString& text) const { return m_maxLength == 0 || text.size() <= m_maxLength; }
 
 private:
     qint64 m_minLength = 0;
