@@ -30,6 +30,16 @@ public:
     cups_dest_t* dests = nullptr;
 };
 
+// Whether the server knows the queue; the error says which server was asked.
+bool queueKnown(const Dests& d, const QString& queue, QString* error)
+{
+    if (d.find(queue.toUtf8(), QByteArray()))
+        return true;
+    if (error)
+        *error = QStringLiteral("printer %1 is not known to the CUPS server %2").arg(queue, QString::fromUtf8(cupsServer()));
+    return false;
+}
+
 PrintDialogHost::OptionList jobOptionsOf(const cups_dest_t* dest)
 {
     QMap<QString, QString> sorted;
@@ -171,11 +181,8 @@ QStringList PresetStore::names(QString* error) const
     useServer();
     Dests d;
     const QByteArray queue = m_queue.toUtf8();
-    if (!d.find(queue, QByteArray())) {
-        if (error)
-            *error = QStringLiteral("printer %1 is not known to the CUPS server %2").arg(m_queue, QString::fromUtf8(cupsServer()));
+    if (!queueKnown(d, m_queue, error))
         return {};
-    }
     QStringList out;
     for (int i = 0; i < d.count; ++i) {
         const cups_dest_t& dest = d.dests[i];
@@ -191,11 +198,8 @@ bool PresetStore::optionsOf(const QString& instance, PrintDialogHost::OptionList
     useServer();
     Dests d;
     const QByteArray queue = m_queue.toUtf8();
-    if (!d.find(queue, QByteArray())) {
-        if (error)
-            *error = QStringLiteral("printer %1 is not known to the CUPS server %2").arg(m_queue, QString::fromUtf8(cupsServer()));
+    if (!queueKnown(d, m_queue, error))
         return false;
-    }
     const cups_dest_t* dest = d.find(queue, instance.toUtf8());
     if (!dest) {
         if (error)
@@ -228,11 +232,8 @@ bool PresetStore::save(const QString& name, const PrintDialogHost::OptionList& o
     const QByteArray instance = name.toUtf8();
     // Without the queue (an unreachable server, a queue that went away)
     // nothing is written: the file would lose the entries of every queue.
-    if (!d.find(queue, QByteArray())) {
-        if (error)
-            *error = QStringLiteral("printer %1 is not known to the CUPS server %2").arg(m_queue, QString::fromUtf8(cupsServer()));
+    if (!queueKnown(d, m_queue, error))
         return false;
-    }
     // A preset saved again starts afresh from the queue's options.
     if (d.find(queue, instance))
         d.count = cupsRemoveDest(queue.constData(), instance.constData(), d.count, &d.dests);
@@ -259,11 +260,8 @@ bool PresetStore::remove(const QString& name, QString* error)
     Dests d;
     const QByteArray queue = m_queue.toUtf8();
     const QByteArray instance = name.toUtf8();
-    if (!d.find(queue, QByteArray())) {
-        if (error)
-            *error = QStringLiteral("printer %1 is not known to the CUPS server %2").arg(m_queue, QString::fromUtf8(cupsServer()));
+    if (!queueKnown(d, m_queue, error))
         return false;
-    }
     if (!d.find(queue, instance)) {
         if (error)
             *error = QStringLiteral("printer %1 has no preset \"%2\"").arg(m_queue, name);
