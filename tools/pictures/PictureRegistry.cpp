@@ -1,0 +1,23 @@
+#include "PictureRegistry.h"
+
+#include <algorithm>
+
+static QList<PictureRegistry::Maker>& makers()
+{
+    static QList<PictureRegistry::Maker> list;
+    return list;
+}
+
+void PictureRegistry::add(Maker maker)
+{
+    makers().append(maker);
+}
+
+QList<PictureSpec> PictureRegistry::all()
+{
+    QList<PictureSpec> specs;
+    for (Maker m : makers())
+        specs += m();
+    std::sort(specs.begin(), specs.end(), [](const PictureSpec& a, const PictureSpec& b) { return a.name < b.name; });
+    return specs;
+}
