@@ -101,8 +101,12 @@ int runApp(const QStringList& args, QString* out, QString* err, const QStringLis
     QProcess p;
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
-    for (const QString& kv : extraEnv)
-        env.insert(kv.section(QLatin1Char('='), 0, 0), kv.section(QLatin1Char('='), 1));
+    for (const QString& kv : extraEnv) {
+        if (kv.startsWith(QLatin1Char('-')))
+            env.remove(kv.mid(1));
+        else
+            env.insert(kv.section(QLatin1Char('='), 0, 0), kv.section(QLatin1Char('='), 1));
+    }
     p.setProcessEnvironment(env);
     p.start(QStringLiteral(PDE_APP_BINARY), args);
     if (!p.waitForFinished(60000)) {

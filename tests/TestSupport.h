@@ -23,6 +23,7 @@ std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap&
 // body (options, attributes, constraints). Answers the file's path.
 QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body);
 // Runs print-panels; answers the exit status and fills stdout/stderr.
+// extraEnv: "NAME=value" sets, "-NAME" removes a variable.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
 }
 

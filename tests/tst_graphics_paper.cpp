@@ -377,6 +377,13 @@ void GraphicsPaperTest::throughCommandLine_data()
     QTest::newRow("x-ray keeps its contrast") << QStringList{"DocType=XRay XrayContrast=High"}
                                               << QStringList{"DocType=XRay", "XrayContrast=High"} << false;
     QTest::newRow("standard keeps colour") << QStringList{"RGBColor=Natural"} << QStringList{"RGBColor=Natural", "DocType=Standard"} << true;
+    // Nine quality rows, eight pop-ups: the ninth row has no control but its rules still run.
+    QTest::newRow("photo resets the ninth row") << QStringList{"DocType=Photo", "id_Trapping=On"}
+                                                << QStringList{"DocType=Photo", "id_Trapping=Off"} << false;
+    // Values given at opening survive the Preferred Color observation.
+    QTest::newRow("memory colour kept") << QStringList{"n_Skin=Plus1"} << QStringList{"n_Skin=Plus1"} << true;
+    QTest::newRow("balance kept") << QStringList{"PreferredColorCheck=On", "n_RCBalance=Plus1"}
+                                  << QStringList{"PreferredColorCheck=On", "n_RCBalance=Plus1"} << true;
 }
 
 void GraphicsPaperTest::throughCommandLine()

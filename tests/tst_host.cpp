@@ -4,6 +4,7 @@
 #include "PDEBundle.h"
 #include "PMPageFormat.h"
 #include "PMPrintSettings.h"
+#include "PanelSession.h"
 #include "PrintDialogHost.h"
 #include "TestSupport.h"
 
@@ -24,6 +25,10 @@ private slots:
     void openErrors_data();
     void openErrors();
     void applyOptions();
+    void conflictsResolvedInOrder_data();
+    void conflictsResolvedInOrder();
+    void jobValues_data();
+    void jobValues();
     void jobOptions();
     void bundle();
 };
@@ -204,6 +209,85 @@ void HostTest::applyOptions()
     QCOMPARE(QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), "PageSize")->choice), QStringLiteral("A4"));
     QVERIFY(!host->printSettings()->contains(QStringLiteral("PageSize")));
     QCOMPARE(host->printSettings()->value(QStringLiteral("note")), QStringLiteral("two words"));
+}
+
+// Every -o goes through approval, in the order written; a later choice
+// wins, what resolution changed is told, and a conflict only the installed
+// hardware could resolve is an error. IPP attributes become the marks they
+// stand for and are not sent beside them.
+void HostTest::conflictsResolvedInOrder_data()
+{
+    QTest::addColumn<QStringList>("options");
+    QTest::addColumn<QStringList>("marks");  // key=choice expected among the job's options
+    QTest::addColumn<QString>("told");       // the resolution line, or the error
+    QTest::newRow("media type rules out duplex") << QStringList{"Duplex=DuplexNoTumble MediaType=Transparency"}
+                                                 << QStringList{"Duplex=None", "MediaType=Transparency"} << "2-Sided Printing set to Off";
+    QTest::newRow("the later choice wins") << QStringList{"MediaType=Transparency", "Duplex=DuplexNoTumble"}
+                                           << QStringList{"Duplex=DuplexNoTumble", "MediaType=Plain"} << "Media Type set to Plain";
+    QTest::newRow("stapling picks the finisher's bin") << QStringList{"StapleLocation=Single"} << QStringList{"StapleLocation=Single"}
+                                                       << "Output Bin set to";
+    QTest::newRow("tray gone with the optional tray") << QStringList{"InputSlot=Tray4 OptionalTray=OneTray"}
+                                                      << QStringList{"InputSlot=Auto"} << "Paper Source set to Auto Select";
+    QTest::newRow("only hardware could resolve") << QStringList{"Option4=False JobSetting=Store"} << QStringList{}
+                                                 << "JobSetting=Store conflicts with Option4=False";
+    QTest::newRow("IPP colour mode") << QStringList{"print-color-mode=monochrome"} << QStringList{"ColorModel=Gray"} << "";
+    QTest::newRow("IPP sides") << QStringList{"sides=two-sided-short-edge"} << QStringList{"Duplex=DuplexTumble"} << "";
+}
+
+void HostTest::conflictsResolvedInOrder()
+{
+    QFETCH(QStringList, options);
+    QFETCH(QStringList, marks);
+    QFETCH(QString, told);
+    QString error;
+    auto session = PanelSession::open({TestSupport::samplePPD(), {}, {}, {}, options}, &error);
+    if (marks.isEmpty()) {
+        QVERIFY(!session);
+        QVERIFY2(error.contains(told), qPrintable(error));
+        return;
+    }
+    QVERIFY2(session, qPrintable(error));
+    QStringList got;
+    for (const auto& [key, value] : session->host().jobOptions()) {
+        got << key + QLatin1Char('=') + value;
+        QVERIFY2(key != QLatin1String("print-color-mode") && key != QLatin1String("sides"), qPrintable(key));
+    }
+    for (const QString& m : marks)
+        QVERIFY2(got.contains(m), qPrintable(m));
+    const QString line = session->openingNotes().join(QLatin1Char('\n'));
+    QVERIFY2(told.isEmpty() ? line.isEmpty() : line.contains(told), qPrintable(line));
+}
+
+void HostTest::jobValues_data()
+{
+    QTest::addColumn<QString>("key");
+    QTest::addColumn<QString>("value");
+    QTest::addColumn<bool>("valid");
+    QTest::newRow("copies") << "copies" << "2" << true;
+    QTest::newRow("copies not a number") << "copies" << "abc" << false;
+    QTest::newRow("no copies") << "copies" << "0" << false;
+    QTest::newRow("too many copies") << "copies" << "10000" << false;
+    QTest::newRow("four up") << "number-up" << "4" << true;
+    QTest::newRow("three up") << "number-up" << "3" << false;
+    QTest::newRow("ranges") << "page-ranges" << "1-3,5,8-" << true;
+    QTest::newRow("range up to") << "page-ranges" << "-4" << true;
+    QTest::newRow("letters") << "page-ranges" << "z-a" << false;
+    QTest::newRow("backwards") << "page-ranges" << "5-2" << false;
+    QTest::newRow("page zero") << "page-ranges" << "0-2" << false;
+    QTest::newRow("empty part") << "page-ranges" << "1,,2" << false;
+    QTest::newRow("reverse portrait") << "orientation-requested" << "6" << true;
+    QTest::newRow("orientation 7") << "orientation-requested" << "7" << false;
+    QTest::newRow("other keys pass") << "note" << "anything" << true;
+}
+
+void HostTest::jobValues()
+{
+    QFETCH(QString, key);
+    QFETCH(QString, value);
+    QFETCH(bool, valid);
+    QString error;
+    QCOMPARE(PrintDialogHost::checkJobValue(key, value, &error), valid);
+    QCOMPARE(error.contains(key), !valid);
 }
 
 void HostTest::jobOptions()

@@ -195,13 +195,13 @@ void ModelTest::installableConstraints_data()
     QTest::addColumn<QString>("current");
     QTest::addColumn<bool>("choiceFeature");
 
-    // Option2 is marked False: both duplex choices go, the marked default with them,
-    // so no value is current.
-    QTest::newRow("choice1 equals the marked choice") << "Duplex" << QStringList{"None"} << QString() << true;
+    // Option2 is marked False: both duplex choices go; the conflicting
+    // default was resolved to the one left when the PPD was opened.
+    QTest::newRow("choice1 equals the marked choice") << "Duplex" << QStringList{"None"} << "None" << true;
     // An empty choice2 takes every choice away: the feature becomes free text.
     QTest::newRow("empty choice2 removes all choices") << "StapleLocation" << QStringList{} << "None" << false;
     // An empty choice1 applies while the installable option is marked anything but None/False.
-    QTest::newRow("empty choice1, installed") << "JobType" << QStringList{"Stored", "Secure"} << QString() << true;
+    QTest::newRow("empty choice1, installed") << "JobType" << QStringList{"Stored", "Secure"} << "Stored" << true;
     QTest::newRow("empty choice1, marked False") << "InputSlot" << QStringList{"Tray1", "Envelope"} << "Tray1" << true;
     QTest::newRow("choice1 not marked") << "MediaType" << QStringList{"Plain", "Thick", "Transparency"} << "Plain" << true;
 }
@@ -453,10 +453,11 @@ void ModelTest::conflictResolutionThroughHost()
 void ModelTest::unresolvableChangeIsRefused()
 {
     // Only the installed hardware could make room for a long-edge duplex.
+    // The conflicting default was resolved when the PPD opened.
     auto host = TestSupport::openHost(m_ppd);
-    QCOMPARE(ppdFindMarkedChoice(host->ppd(), "Duplex")->choice, "DuplexTumble");
+    QCOMPARE(ppdFindMarkedChoice(host->ppd(), "Duplex")->choice, "None");
     QVERIFY(!host->willChangePPDOptionKeyValue(QStringLiteral("Duplex"), QStringLiteral("DuplexNoTumble")));
-    QCOMPARE(ppdFindMarkedChoice(host->ppd(), "Duplex")->choice, "DuplexTumble");
+    QCOMPARE(ppdFindMarkedChoice(host->ppd(), "Duplex")->choice, "None");
     QVERIFY(!host->willChangePPDOptionKeyValue(QStringLiteral("Duplex"), QStringLiteral("Bogus")));
     // Free text and keys that are no PPD option are approved unchanged.
     QVERIFY(host->willChangePPDOptionKeyValue(QStringLiteral("USERID"), QStringLiteral("anything at all")));

@@ -4,6 +4,7 @@
 
 #include <QCommandLineParser>
 #include <QCoreApplication>
+#include <cups/cups.h>
 
 static void addOptions(QCommandLineParser& p)
 {
@@ -15,17 +16,27 @@ static void addOptions(QCommandLineParser& p)
         {QStringLiteral("o"), QStringLiteral("Job option as for lp -o (repeatable)."), QStringLiteral("key=value")},
         {QStringLiteral("describe"), QStringLiteral("Print the panels and their controls as JSON.")},
         {QStringLiteral("print-options"), QStringLiteral("Print the job's options, key=value a line.")},
-        {QStringLiteral("print"), QStringLiteral("Print FILE without showing the dialog."), QStringLiteral("FILE")},
+        {QStringLiteral("print"), QStringLiteral("Print FILE without showing the dialog (to the default printer without --printer)."), QStringLiteral("FILE")},
+        {QStringLiteral("show-secrets"), QStringLiteral("With --print-options, show passwords and PINs instead of <hidden>.")},
     });
     p.addPositionalArgument(QStringLiteral("files"), QStringLiteral("Documents to print."), QStringLiteral("[FILE...]"));
     p.addHelpOption();
+    p.addVersionOption();
+    p.setApplicationDescription(QStringLiteral("The printer maker's print dialog panels for a CUPS queue or a PPD file.\n"
+                                               "Without --ppd or --printer, the user's default printer is used."));
 }
 
 QString CommandLine::usage()
 {
     QCommandLineParser p;
     addOptions(p);
-    return p.helpText();
+    // Made before the application exists, so the program's name is put in here.
+    return p.helpText().replace(QStringLiteral("<executable_name>"), QStringLiteral("print-panels"));
+}
+
+QString CommandLine::version()
+{
+    return QStringLiteral("print-panels %1").arg(QStringLiteral(PRINT_PANELS_VERSION));
 }
 
 CommandLine CommandLine::parse(const QStringList& arguments)
@@ -35,6 +46,15 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     addOptions(p);
     if (!p.parse(arguments)) {
         c.error = p.errorText();
+        c.showUsage = true;
+        return c;
+    }
+    if (p.isSet(QStringLiteral("help")) || p.isSet(QStringLiteral("help-all"))) {
+        c.mode = Mode::Help;
+        return c;
+    }
+    if (p.isSet(QStringLiteral("version"))) {
+        c.mode = Mode::Version;
         return c;
     }
     if (p.isSet(QStringLiteral("ppd")) && p.isSet(QStringLiteral("printer"))) {
@@ -46,8 +66,17 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     c.session.server = p.value(QStringLiteral("server"));
     c.session.bundlePath = p.value(QStringLiteral("bundle"));
     c.session.optionStrings = p.values(QStringLiteral("o"));
+    c.showSecrets = p.isSet(QStringLiteral("show-secrets"));
+    // Malformed options and job values are refused before anything is opened or sent.
     for (const QString& o : std::as_const(c.session.optionStrings)) {
         if (!PrintDialogHost::validateOptionString(o, &c.error))
+            return c;
+        cups_option_t* parsed = nullptr;
+        const int count = cupsParseOptions(o.toUtf8().constData(), 0, &parsed);
+        for (int i = 0; i < count && c.error.isEmpty(); ++i)
+            PrintDialogHost::checkJobValue(QString::fromUtf8(parsed[i].name), QString::fromUtf8(parsed[i].value), &c.error);
+        cupsFreeOptions(count, parsed);
+        if (!c.error.isEmpty())
             return c;
     }
     const int modes = int(p.isSet(QStringLiteral("describe"))) + int(p.isSet(QStringLiteral("print-options")))
@@ -64,8 +93,8 @@ CommandLine CommandLine::parse(const QStringList& arguments)
     } else if (p.isSet(QStringLiteral("print"))) {
         c.mode = Mode::Print;
         c.files.prepend(p.value(QStringLiteral("print")));
-        if (c.session.printer.isEmpty())
-            c.error = QStringLiteral("--print needs --printer QUEUE");
+        if (!c.session.ppdPath.isEmpty())
+            c.error = QStringLiteral("--print needs a CUPS queue: use --printer QUEUE instead of --ppd");
     }
     return c;
 }

@@ -5,14 +5,19 @@
 
 // The print-panels command line.
 struct CommandLine {
-    enum class Mode { Dialog, Describe, PrintOptions, Print };
+    enum class Mode { Dialog, Describe, PrintOptions, Print, Help, Version };
     Mode mode = Mode::Dialog;
     PanelSession::Options session;
     QStringList files;  // documents to print
+    bool showSecrets = false;  // --print-options shows passwords and PINs
     QString error;      // set when the command line cannot be used
+    bool showUsage = false;  // the error is in the options themselves: show the usage too
 
     static CommandLine parse(const QStringList& arguments);
     static QString usage();
+    static QString version();
+    // Whether the mode runs without a window.
+    bool isHeadless() const { return mode == Mode::Describe || mode == Mode::PrintOptions || mode == Mode::Print; }
 };
 
 // Exit statuses.

@@ -21,16 +21,29 @@ int failWith(int status, const QString& error)
 
 int HeadlessPrint::run(const CommandLine& cl)
 {
-    PrintJob job(cl.session.printer, cl.session.server);
+    // Without --printer, the job goes to the default destination, as lp's does.
+    QString printer = cl.session.printer;
+    if (printer.isEmpty()) {
+        bool reachable = true;
+        printer = PrintDialogHost::defaultDestination(cl.session.server, &reachable);
+        if (printer.isEmpty())
+            return failWith(ExitBadInput, reachable ? QStringLiteral("there is no printer to print to: CUPS has no queue (use --printer QUEUE)")
+                                                    : PrintDialogHost::unreachableServer(cl.session.server));
+    }
+    PanelSession::Options options = cl.session;
+    options.printer = printer;
+    PrintJob job(printer, cl.session.server);
     job.setFiles(cl.files);
     // A document that cannot be printed is found before anything is opened.
     QString error;
     if (!job.checkDocuments(&error))
         return failWith(ExitBadInput, error);
 
-    std::unique_ptr<PanelSession> session = PanelSession::open(cl.session, &error);
+    std::unique_ptr<PanelSession> session = PanelSession::open(options, &error);
     if (!session)
         return failWith(ExitBadInput, error);
+    for (const QString& note : session->openingNotes())
+        printLine(stderr, QStringLiteral("print-panels: ") + escapeForLine(note));
     QString refusal;
     if (!session->prepareToPrint(&refusal))
         return failWith(ExitRefused, refusal);
@@ -39,7 +52,7 @@ int HeadlessPrint::run(const CommandLine& cl)
     if (!job.submit())
         return failWith(job.status() == PrintJob::Status::BadInput ? ExitBadInput : ExitFailure, job.errorString());
     printLine(stdout, QStringLiteral("request id is %1-%2 (%3 file(s))")
-                          .arg(cl.session.printer.section(QLatin1Char('/'), 0, 0))
+                          .arg(printer.section(QLatin1Char('/'), 0, 0))
                           .arg(job.jobId())
                           .arg(job.files().size()));
     return ExitOK;

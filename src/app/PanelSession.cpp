@@ -9,6 +9,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
+#include <algorithm>
 
 QString PanelSession::samplePrinterPPD(QTemporaryDir& dir, const QString& name)
 {
@@ -33,16 +34,33 @@ std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString
             *error = QStringLiteral("the plug-in bundle cannot be read");
         return nullptr;
     }
-    if (!options.printer.isEmpty()) {
-        s->m_host = PrintDialogHost::openPrinter(options.printer, options.server, error);
+    s->m_options = options;
+    // Without a printer or a PPD file: the user's default destination, as
+    // every dialog on the desktop opens; the sample printer when there is no queue.
+    if (options.printer.isEmpty() && options.ppdPath.isEmpty())
+        s->m_options.printer = PrintDialogHost::defaultDestination(options.server);
+    // Resolution reports are queued; collected here until the session is open.
+    auto collect = [session = s.get()](const PrintDialogHost::OptionList& changes) {
+        for (const auto& change : changes) {
+            auto it = std::find_if(session->m_resolutionChanges.begin(), session->m_resolutionChanges.end(),
+                                   [&](const auto& c) { return c.first == change.first; });
+            if (it != session->m_resolutionChanges.end())
+                it->second = change.second;
+            else
+                session->m_resolutionChanges.append(change);
+        }
+    };
+    if (!s->m_options.printer.isEmpty()) {
+        s->m_host = PrintDialogHost::openPrinter(s->m_options.printer, options.server, error, &s->m_openingWarnings);
     } else {
         QString ppd = options.ppdPath;
         if (ppd.isEmpty())
-            ppd = samplePrinterPPD(s->m_tempDir);
+            ppd = s->m_options.ppdPath = samplePrinterPPD(s->m_tempDir);
         s->m_host = PrintDialogHost::openPPDFile(ppd, error);
     }
     if (!s->m_host)
         return nullptr;
+    QObject::connect(s->m_host.get(), &PrintDialogHost::optionsChangedByResolution, s->m_host.get(), collect);
     for (const QString& o : options.optionStrings)
         if (!s->m_host->applyOptions(o, error))
             return nullptr;
@@ -60,7 +78,18 @@ std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString
     }
     // Changes made by conflict resolution reach the panels before anyone looks.
     QCoreApplication::sendPostedEvents();
+    QObject::disconnect(s->m_host.get(), &PrintDialogHost::optionsChangedByResolution, s->m_host.get(), nullptr);
     return s;
+}
+
+QStringList PanelSession::openingNotes() const
+{
+    QStringList notes;
+    for (const QString& warning : m_openingWarnings)
+        notes.append(QStringLiteral("a saved option is not used: ") + warning);
+    if (!m_resolutionChanges.isEmpty())
+        notes.append(QStringLiteral("to resolve a conflict, ") + m_host->describeChanges(m_resolutionChanges));
+    return notes;
 }
 
 PanelSession::~PanelSession()

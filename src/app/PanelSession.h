@@ -17,8 +17,9 @@ class PDEPanel;
 class PanelSession {
 public:
     struct Options {
-        QString ppdPath;      // a PPD file; empty with no printer means the sample printer
-        QString printer;      // a CUPS queue
+        QString ppdPath;      // a PPD file
+        QString printer;      // a CUPS queue; with no PPD file either, the user's default
+                              // destination, or the sample printer when there is no queue
         QString server;       // host:port of the CUPS server, or empty
         QString bundlePath;   // the plug-in bundle; empty means the built-in one
         QStringList optionStrings;  // as given to -o
@@ -30,6 +31,16 @@ public:
     PrintDialogHost& host() { return *m_host; }
     const QList<std::shared_ptr<PDEPanel>>& panels() const { return m_panels; }
     PDEBundle& bundle() { return *m_bundle; }
+    // The options the session opened with; printer names the queue chosen
+    // when none was given.
+    const Options& options() const { return m_options; }
+    // What conflict resolution changed while the session opened (the PPD's
+    // defaults, saved options, preset, -o), each option once, last value.
+    const PrintDialogHost::OptionList& resolutionChanges() const { return m_resolutionChanges; }
+    // Saved options of the queue that could not be used, in words.
+    const QStringList& openingWarnings() const { return m_openingWarnings; }
+    // Both of the above as lines for the command line, in English.
+    QStringList openingNotes() const;
 
     // Adds a panel after the plug-in's (a dialog's own panel): it is restored
     // now, told about resolution changes and asked with the others when printing.
@@ -49,4 +60,7 @@ private:
     std::unique_ptr<PrintDialogHost> m_host;
     std::unique_ptr<MRPDE_MACFirstEventHandler> m_entry;
     QList<std::shared_ptr<PDEPanel>> m_panels;
+    Options m_options;
+    PrintDialogHost::OptionList m_resolutionChanges;
+    QStringList m_openingWarnings;
 };

@@ -6,6 +6,8 @@
 #include <QFileInfo>
 #include <QMetaObject>
 #include <QPointer>
+#include <QRegularExpression>
+#include <climits>
 #include <cups/cups.h>
 #include <cups/ppd.h>
 #include <algorithm>
@@ -78,7 +80,30 @@ bool PrintDialogHost::openPPD(const QString& path, QString* error)
     if (hasTranslationsForUser(m_ppd))
         ppdLocalize(m_ppd);
     ppdMarkDefaults(m_ppd);
+    resolveDefaults();
     return true;
+}
+
+void PrintDialogHost::resolveDefaults()
+{
+    // Defaults that conflict (a duplex default without the duplex unit) are
+    // resolved as any later choice would be.
+    if (ppdConflicts(m_ppd) == 0)
+        return;
+    const OptionList before = markedChoices();
+    int count = 0;
+    cups_option_t* resolved = nullptr;
+    if (cupsResolveConflicts(m_ppd, nullptr, nullptr, &count, &resolved)) {
+        for (int i = 0; i < count; ++i)
+            ppdMarkOption(m_ppd, resolved[i].name, resolved[i].value);
+    }
+    cupsFreeOptions(count, resolved);
+    OptionList changes;
+    for (const auto& mark : markedChoices())
+        if (!before.contains(mark))
+            changes.append(mark);
+    if (!changes.isEmpty())
+        reportChanges(changes);
 }
 
 std::unique_ptr<PrintDialogHost> PrintDialogHost::openPPDFile(const QString& path, QString* error)
@@ -90,7 +115,8 @@ std::unique_ptr<PrintDialogHost> PrintDialogHost::openPPDFile(const QString& pat
     return host;
 }
 
-std::unique_ptr<PrintDialogHost> PrintDialogHost::openPrinter(const QString& queue, const QString& server, QString* error)
+std::unique_ptr<PrintDialogHost> PrintDialogHost::openPrinter(const QString& queue, const QString& server, QString* error,
+                                                             QStringList* warnings)
 {
     if (!server.isEmpty())
         cupsSetServer(server.toUtf8().constData());
@@ -99,7 +125,9 @@ std::unique_ptr<PrintDialogHost> PrintDialogHost::openPrinter(const QString& que
     cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.toUtf8().constData(),
                                          instance.isEmpty() ? nullptr : instance.toUtf8().constData());
     if (!dest) {
-        *error = QStringLiteral("printer %1: %2").arg(queue, QString::fromUtf8(cupsLastErrorString()));
+        const QString unreachable = unreachableServer(server);
+        *error = unreachable.isEmpty() ? QStringLiteral("printer %1: %2").arg(queue, QString::fromUtf8(cupsLastErrorString()))
+                                       : unreachable;
         return nullptr;
     }
     char ppdPath[1024] = "";
@@ -117,15 +145,53 @@ std::unique_ptr<PrintDialogHost> PrintDialogHost::openPrinter(const QString& que
         return nullptr;
     }
     host->m_printer = std::make_unique<PMPrinter>(queue, server, true);
-    // The queue's saved options: PPD choices are marked, the rest become print settings.
-    cupsMarkOptions(host->m_ppd, dest->num_options, dest->options);
-    for (int i = 0; i < dest->num_options; ++i) {
-        const QString name = QString::fromUtf8(dest->options[i].name);
-        if (!choiceOption(host->m_ppd, name) && !isPrinterAttribute(name))
-            host->m_settings.setValue(QString::fromUtf8(dest->options[i].name), QString::fromUtf8(dest->options[i].value));
-    }
+    // The queue's saved options (an instance's on top of them), each through
+    // approval; what cannot be used is told and left out.
+    QStringList skipped;
+    host->applyParsed(dest->num_options, dest->options, nullptr, &skipped);
+    if (warnings)
+        *warnings = skipped;
     cupsFreeDests(1, dest);
     return host;
+}
+
+QString PrintDialogHost::defaultDestination(const QString& server, bool* reachable)
+{
+    if (!server.isEmpty())
+        cupsSetServer(server.toUtf8().constData());
+    QString name;
+    if (cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr)) {
+        name = QString::fromUtf8(dest->name);
+        if (dest->instance)
+            name += QLatin1Char('/') + QString::fromUtf8(dest->instance);
+        cupsFreeDests(1, dest);
+    } else {
+        // No default: the first queue the server has.
+        cups_dest_t* dests = nullptr;
+        const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests);
+        for (int i = 0; i < count && name.isEmpty(); ++i)
+            if (!dests[i].instance)
+                name = QString::fromUtf8(dests[i].name);
+        cupsFreeDests(count, dests);
+    }
+    if (reachable)
+        *reachable = !name.isEmpty() || unreachableServer(server).isEmpty();
+    return name;
+}
+
+QString PrintDialogHost::unreachableServer(const QString& server)
+{
+    if (!server.isEmpty())
+        cupsSetServer(server.toUtf8().constData());
+    const QByteArray host = cupsServer();
+    const int port = ippPort();
+    http_t* http = httpConnect2(host.constData(), port, nullptr, AF_UNSPEC, cupsEncryption(), 1, 5000, nullptr);
+    if (http) {
+        httpClose(http);
+        return QString();
+    }
+    const QString where = host.startsWith('/') ? QString::fromUtf8(host) : QStringLiteral("%1:%2").arg(QString::fromUtf8(host)).arg(port);
+    return QStringLiteral("the CUPS server at %1 cannot be reached: is the scheduler running?").arg(where);
 }
 
 bool PrintDialogHost::isPrinterAttribute(const QString& key)
@@ -154,6 +220,16 @@ bool PrintDialogHost::isPrinterAttribute(const QString& key)
 
 bool PrintDialogHost::validateOptionString(const QString& options, QString* error)
 {
+    QString ignored;
+    QString* why = error ? error : &ignored;
+    why->clear();
+    splitOptionString(options, why);
+    return why->isEmpty();
+}
+
+QStringList PrintDialogHost::splitOptionString(const QString& options, QString* error)
+{
+    QStringList tokens;
     // The grammar of `lp -o`: names up to '=' or a blank, values bare, quoted
     // with ' or ", or in braces; a backslash escapes the next character.
     const QString s = options;
@@ -161,7 +237,7 @@ bool PrintDialogHost::validateOptionString(const QString& options, QString* erro
     const qsizetype n = s.size();
     auto fail = [&](const QString& why) {
         *error = QStringLiteral("malformed option \"%1\": %2").arg(options, why);
-        return false;
+        return QStringList();
     };
     while (i < n) {
         while (i < n && s[i].isSpace())
@@ -176,8 +252,10 @@ bool PrintDialogHost::validateOptionString(const QString& options, QString* erro
         }
         if (i == nameStart)
             return fail(QStringLiteral("an option has no name"));
-        if (i >= n || s[i] != QLatin1Char('='))
-            continue;  // a bare name, as in "-o landscape"
+        if (i >= n || s[i] != QLatin1Char('=')) {
+            tokens.append(s.mid(nameStart, i - nameStart));  // a bare name, as in "-o landscape"
+            continue;
+        }
         ++i;
         int braces = 0;
         QChar quote;
@@ -208,38 +286,170 @@ bool PrintDialogHost::validateOptionString(const QString& options, QString* erro
             return fail(QStringLiteral("unclosed quote %1").arg(quote));
         if (braces > 0)
             return fail(QStringLiteral("unclosed '{'"));
+        tokens.append(s.mid(nameStart, i - nameStart));
+    }
+    return tokens;
+}
+
+bool PrintDialogHost::checkJobValue(const QString& key, const QString& value, QString* error)
+{
+    auto fail = [&](const QString& why) {
+        if (error)
+            *error = QStringLiteral("%1=%2: %3").arg(key, value, why);
+        return false;
+    };
+    bool ok = false;
+    if (key == QLatin1String("copies")) {
+        const int n = value.toInt(&ok);
+        if (!ok || n < 1 || n > 9999)
+            return fail(QStringLiteral("copies must be a whole number from 1 to 9999"));
+    } else if (key == QLatin1String("number-up")) {
+        static const QList<int> allowed{1, 2, 4, 6, 9, 16};
+        if (!allowed.contains(value.toInt(&ok)) || !ok)
+            return fail(QStringLiteral("pages per sheet must be 1, 2, 4, 6, 9 or 16"));
+    } else if (key == QLatin1String("orientation-requested")) {
+        const int n = value.toInt(&ok);
+        if (!ok || n < 3 || n > 6)
+            return fail(QStringLiteral("the orientation must be 3 (portrait), 4 (landscape), 5 (reverse landscape) or 6 (reverse portrait)"));
+    } else if (key == QLatin1String("page-ranges")) {
+        // "1-3,5,8-": pages from 1, each range in ascending order.
+        static const QRegularExpression range(QStringLiteral("^\\s*(\\d+)?\\s*(-\\s*(\\d+)?)?\\s*$"));
+        const QStringList parts = value.split(QLatin1Char(','));
+        for (const QString& part : parts) {
+            const QRegularExpressionMatch m = range.match(part);
+            if (!m.hasMatch() || (m.captured(1).isEmpty() && m.captured(3).isEmpty()))
+                return fail(QStringLiteral("a page range is written as 1-3,5,8-"));
+            const qlonglong first = m.captured(1).isEmpty() ? 1 : m.captured(1).toLongLong();
+            const qlonglong last = m.captured(3).isEmpty() ? (m.captured(2).isEmpty() ? first : INT_MAX) : m.captured(3).toLongLong();
+            if (first < 1 || last < first || last > INT_MAX)
+                return fail(QStringLiteral("pages are numbered from 1, and a range goes from its first page to a later one"));
+        }
     }
     return true;
 }
 
 bool PrintDialogHost::applyOptions(const QString& options, QString* error)
 {
-    if (!validateOptionString(options, error))
+    QString ignored;
+    QString* why = error ? error : &ignored;
+    why->clear();
+    const QStringList tokens = splitOptionString(options, why);
+    if (!why->isEmpty())
         return false;
-    cups_option_t* parsed = nullptr;
-    const int count = cupsParseOptions(options.toUtf8().constData(), 0, &parsed);
+    // Nothing of the list is kept when one option cannot be used.
+    const OptionList marks = markedChoices();
+    const QList<PMPrintSettings::Entry> settings = m_settings.entries();
+    bool applied = true;
+    for (const QString& token : tokens) {
+        // One at a time: a later option wins over an earlier one.
+        cups_option_t* parsed = nullptr;
+        const int count = cupsParseOptions(token.toUtf8().constData(), 0, &parsed);
+        applied = applyParsed(count, parsed, why, nullptr);
+        cupsFreeOptions(count, parsed);
+        if (!applied)
+            break;
+    }
+    if (!applied) {
+        remark(marks);
+        m_settings = PMPrintSettings();
+        for (const auto& [key, value] : settings)
+            m_settings.setValue(key, value);
+    }
+    return applied;
+}
+
+bool PrintDialogHost::applyParsed(int count, const cups_option_t* options, QString* error, QStringList* warnings)
+{
+    // An option that cannot be used stops the list (error) or is skipped and
+    // told (warnings).
+    auto refuse = [&](const QString& why) {
+        if (warnings) {
+            warnings->append(why);
+            return true;
+        }
+        if (error)
+            *error = why;
+        return false;
+    };
     for (int i = 0; i < count; ++i) {
-        ppd_option_t* o = choiceOption(m_ppd, QString::fromUtf8(parsed[i].name));
-        if (o && !isAcceptedChoice(o, parsed[i].value)) {
-            QStringList choices;
-            for (int c = 0; c < o->num_choices; ++c)
-                choices << QString::fromUtf8(o->choices[c].choice);
-            *error = QStringLiteral("option %1 has no choice \"%2\" (choices: %3)")
-                         .arg(QString::fromUtf8(parsed[i].name), QString::fromUtf8(parsed[i].value),
-                              choices.join(QStringLiteral(", ")));
-            cupsFreeOptions(count, parsed);
-            return false;
+        const QString name = QString::fromUtf8(options[i].name);
+        const QString value = QString::fromUtf8(options[i].value);
+        if (isPrinterAttribute(name))
+            continue;
+        QString why;
+        if (!checkJobValue(name, value, &why)) {
+            if (!refuse(why))
+                return false;
+            continue;
+        }
+        OptionList choices;
+        bool mapsOntoPPD = false;
+        if (ppd_option_t* o = choiceOption(m_ppd, name)) {
+            if (!isAcceptedChoice(o, options[i].value)) {
+                QStringList offered;
+                for (int c = 0; c < o->num_choices; ++c)
+                    offered << QString::fromUtf8(o->choices[c].choice);
+                if (!refuse(QStringLiteral("option %1 has no choice \"%2\" (choices: %3)").arg(name, value, offered.join(QStringLiteral(", ")))))
+                    return false;
+                continue;
+            }
+            choices.append({name, value});
+        } else {
+            choices = marksForAttribute(name, value, &mapsOntoPPD);
+            if (choices.isEmpty() && !mapsOntoPPD) {
+                m_settings.setValue(name, value);
+                continue;
+            }
+            // The attribute is now the marks it stands for: sending it beside
+            // them could only contradict a later choice.
+            m_settings.remove(name);
+        }
+        for (const auto& [key, choice] : std::as_const(choices)) {
+            OptionList changes;
+            if (!approveChoice(key, choice, &changes, &why)) {
+                if (!refuse(why))
+                    return false;
+                break;
+            }
+            if (!changes.isEmpty())
+                reportChanges(changes);
         }
     }
-    if (m_ppd)
-        cupsMarkOptions(m_ppd, count, parsed);
-    for (int i = 0; i < count; ++i) {
-        const QString name = QString::fromUtf8(parsed[i].name);
-        if (!choiceOption(m_ppd, name))
-            m_settings.setValue(name, QString::fromUtf8(parsed[i].value));
-    }
-    cupsFreeOptions(count, parsed);
     return true;
+}
+
+PrintDialogHost::OptionList PrintDialogHost::marksForAttribute(const QString& name, const QString& value, bool* mapsOntoPPD)
+{
+    // The attributes libcups maps onto PPD options, and the options each can set.
+    static const QMap<QString, QStringList> mapped{
+        {QStringLiteral("media"), {QStringLiteral("PageSize"), QStringLiteral("PageRegion"), QStringLiteral("InputSlot"), QStringLiteral("MediaType")}},
+        {QStringLiteral("sides"), {QStringLiteral("Duplex"), QStringLiteral("EFDuplex"), QStringLiteral("EFDuplexing"), QStringLiteral("KD03Duplex"), QStringLiteral("JCLDuplex")}},
+        {QStringLiteral("print-color-mode"), {QStringLiteral("ColorModel")}},
+        {QStringLiteral("output-bin"), {QStringLiteral("OutputBin")}},
+        {QStringLiteral("print-quality"), {QStringLiteral("cupsPrintQuality")}},
+    };
+    *mapsOntoPPD = false;
+    OptionList marks;
+    const auto it = mapped.constFind(name);
+    if (!m_ppd || it == mapped.cend())
+        return marks;
+    for (const QString& key : *it)
+        if (choiceOption(m_ppd, key))
+            *mapsOntoPPD = true;
+    // libcups knows the mapping: mark a trial, read what changed, put the marks back.
+    const OptionList before = markedChoices();
+    cups_option_t option{const_cast<char*>(""), const_cast<char*>("")};
+    const QByteArray n = name.toUtf8(), v = value.toUtf8();
+    option.name = const_cast<char*>(n.constData());
+    option.value = const_cast<char*>(v.constData());
+    cupsMarkOptions(m_ppd, 1, &option);
+    for (const auto& mark : markedChoices())
+        if (!before.contains(mark))
+            marks.append(mark);
+    remark(before);
+    if (!marks.isEmpty())
+        *mapsOntoPPD = true;
+    return marks;
 }
 
 bool PrintDialogHost::respondsToOperation(Operation op) const
@@ -290,13 +500,26 @@ void PrintDialogHost::remark(const OptionList& marks)
 
 bool PrintDialogHost::willChangePPDOptionKeyValue(const QString& option, const QString& choice)
 {
+    OptionList changes;
+    if (!approveChoice(option, choice, &changes, nullptr))
+        return false;
+    if (!changes.isEmpty())
+        reportChanges(changes);
+    return true;
+}
+
+bool PrintDialogHost::approveChoice(const QString& option, const QString& choice, OptionList* changes, QString* error)
+{
     ppd_option_t* o = choiceOption(m_ppd, option);
     if (!o)
         return true;  // free text, or a key the PPD does not know: nothing to mark
     const QByteArray key = option.toUtf8();
     const QByteArray value = choice.toUtf8();
-    if (!isAcceptedChoice(o, value))
+    if (!isAcceptedChoice(o, value)) {
+        if (error)
+            *error = QStringLiteral("option %1 has no choice \"%2\"").arg(option, choice);
         return false;
+    }
     // Approving the choice that is already marked changes nothing.
     if (const ppd_choice_t* marked = ppdFindMarkedChoice(m_ppd, key.constData()); marked && value == marked->choice)
         return true;
@@ -306,6 +529,18 @@ bool PrintDialogHost::willChangePPDOptionKeyValue(const QString& option, const Q
     cups_option_t* resolved = nullptr;
     if (!cupsResolveConflicts(m_ppd, key.constData(), value.constData(), &count, &resolved)) {
         cupsFreeOptions(count, resolved);
+        if (error) {
+            // Name what it conflicts with, as the user reads it.
+            QStringList with;
+            cups_option_t* conflicts = nullptr;
+            const int n = cupsGetConflicts(m_ppd, key.constData(), value.constData(), &conflicts);
+            for (int i = 0; i < n; ++i)
+                if (qstrcmp(conflicts[i].name, key.constData()) != 0)
+                    with << QStringLiteral("%1=%2").arg(QString::fromUtf8(conflicts[i].name), QString::fromUtf8(conflicts[i].value));
+            cupsFreeOptions(n, conflicts);
+            *error = QStringLiteral("%1=%2 conflicts with %3, which cannot be changed to resolve it")
+                         .arg(option, choice, with.isEmpty() ? QStringLiteral("the installed options") : with.join(QStringLiteral(", ")));
+        }
         remark(before);
         return false;
     }
@@ -313,15 +548,32 @@ bool PrintDialogHost::willChangePPDOptionKeyValue(const QString& option, const Q
         ppdMarkOption(m_ppd, resolved[i].name, resolved[i].value);
     cupsFreeOptions(count, resolved);
 
-    OptionList changes;
-    const OptionList after = markedChoices();
-    for (const auto& mark : after) {
+    for (const auto& mark : markedChoices()) {
         if (mark.first != option && !before.contains(mark))
-            changes.append(mark);
+            changes->append(mark);
     }
-    if (!changes.isEmpty())
-        reportChanges(changes);
     return true;
+}
+
+QString PrintDialogHost::optionText(const QString& key) const
+{
+    const ppd_option_t* o = m_ppd ? ppdFindOption(m_ppd, key.toUtf8().constData()) : nullptr;
+    return o && o->text[0] ? QString::fromUtf8(o->text) : key;
+}
+
+QString PrintDialogHost::choiceText(const QString& key, const QString& choice) const
+{
+    ppd_option_t* o = m_ppd ? ppdFindOption(m_ppd, key.toUtf8().constData()) : nullptr;
+    const ppd_choice_t* c = o ? ppdFindChoice(o, choice.toUtf8().constData()) : nullptr;
+    return c && c->text[0] ? QString::fromUtf8(c->text) : choice;
+}
+
+QString PrintDialogHost::describeChanges(const OptionList& changes) const
+{
+    QStringList parts;
+    for (const auto& [key, choice] : changes)
+        parts.append(QStringLiteral("%1 set to %2").arg(optionText(key), choiceText(key, choice)));
+    return parts.join(QStringLiteral(", "));
 }
 
 void PrintDialogHost::reportChanges(const OptionList& changes)
@@ -333,10 +585,20 @@ void PrintDialogHost::reportChanges(const OptionList& changes)
         [self, changes] {
             if (!self)
                 return;
+            // Only what the PPD still holds: a later choice may have changed
+            // an option again before this report was delivered.
+            OptionList current;
+            for (const auto& change : changes) {
+                const ppd_choice_t* marked = ppdFindMarkedChoice(self->m_ppd, change.first.toUtf8().constData());
+                if (marked && change.second == QString::fromUtf8(marked->choice))
+                    current.append(change);
+            }
+            if (current.isEmpty())
+                return;
             for (PDEPanel* panel : self->m_panels)
-                for (const auto& [key, choice] : changes)
+                for (const auto& [key, choice] : current)
                     panel->PPDOptionKeyValueDidChange(key, choice);
-            emit self->optionsChangedByResolution(changes);
+            emit self->optionsChangedByResolution(current);
         },
         Qt::QueuedConnection);
 }

@@ -7,6 +7,7 @@
 #include <QList>
 #include <QObject>
 #include <QPair>
+#include <QStringList>
 #include <QString>
 #include <memory>
 
@@ -21,10 +22,22 @@ class PrintDialogHost : public QObject, public PDEPluginCallback {
 public:
     using OptionList = QList<QPair<QString, QString>>;
 
+    // A PPD file: its defaults marked, conflicts among them resolved.
     static std::unique_ptr<PrintDialogHost> openPPDFile(const QString& path, QString* error);
     // A CUPS queue ("name" or "name/instance"); server as "host:port" or empty
-    // for the user's default server. The queue's saved options are marked.
-    static std::unique_ptr<PrintDialogHost> openPrinter(const QString& queue, const QString& server, QString* error);
+    // for the user's default server. After the PPD's defaults, the queue's
+    // saved options (and the instance's) go through approval; the ones that
+    // cannot be used are told in *warnings.
+    static std::unique_ptr<PrintDialogHost> openPrinter(const QString& queue, const QString& server, QString* error,
+                                                        QStringList* warnings = nullptr);
+    // The user's default destination ("queue" or "queue/instance": the
+    // lpoptions default, else the server's, else the first queue); empty when
+    // the server has no queue. *reachable tells whether the server answered.
+    static QString defaultDestination(const QString& server, bool* reachable = nullptr);
+    // Why a server gives no answer, in words for the user ("the CUPS server at
+    // localhost:631 cannot be reached: is the scheduler running?"), or empty
+    // when it answers.
+    static QString unreachableServer(const QString& server);
     ~PrintDialogHost() override;
 
     // Whether a destination option describes the printer (its state, URI,
@@ -32,9 +45,30 @@ public:
     static bool isPrinterAttribute(const QString& key);
     // Checks an option string written as for `lp -o` ("a=1 b='x y'").
     static bool validateOptionString(const QString& options, QString* error);
-    // Applies options written as for `lp -o`: PPD options with choices are
-    // marked (an unknown choice is an error), the rest go to the print settings.
+    // The options of such a string, one "name=value" text each, in the order
+    // written (cupsParseOptions sorts them); empty with *error when malformed.
+    static QStringList splitOptionString(const QString& options, QString* error);
+    // Checks the value of a job option the print dialog knows (copies,
+    // number-up, page-ranges, orientation-requested); other keys pass.
+    static bool checkJobValue(const QString& key, const QString& value, QString* error);
+    // Applies options written as for `lp -o`, in order, each through approval:
+    // PPD choices are marked and conflicts resolved, IPP attributes that map
+    // onto PPD options (media, sides, print-color-mode, output-bin,
+    // print-quality) become those marks, the rest go to the print settings.
+    // An unknown choice, a malformed job value or a conflict that cannot be
+    // resolved is an error, and then nothing of the list is applied.
     bool applyOptions(const QString& options, QString* error);
+    // Marks a choice through approval: marked, conflicts resolved by libcups.
+    // *changes gets every other option that resolution changed. False, with
+    // the marks as before and *error naming the conflict, when it cannot be
+    // resolved.
+    bool approveChoice(const QString& option, const QString& choice, OptionList* changes, QString* error);
+
+    // The user's words for an option and for one of its choices.
+    QString optionText(const QString& key) const;
+    QString choiceText(const QString& key, const QString& choice) const;
+    // "2-Sided Printing set to Off, Media Type set to Plain".
+    QString describeChanges(const OptionList& changes) const;
 
     QString ppdPath() const { return m_ppdPath; }
     ppd_file_s* ppd() const { return m_ppd; }
@@ -67,6 +101,13 @@ private:
     bool openPPD(const QString& path, QString* error);
     OptionList markedChoices() const;
     void remark(const OptionList& marks);
+    void resolveDefaults();
+    // Applies parsed options in order; false at the first that cannot be used.
+    bool applyParsed(int count, const struct cups_option_s* options, QString* error, QStringList* warnings);
+    // The PPD marks an IPP attribute stands for, as libcups maps it; empty
+    // when it maps onto nothing. *mapsOntoPPD tells whether the PPD has an
+    // option for the attribute at all.
+    OptionList marksForAttribute(const QString& name, const QString& value, bool* mapsOntoPPD);
     void reportChanges(const OptionList& changes);
 
     ppd_file_s* m_ppd = nullptr;

@@ -117,9 +117,10 @@ bool PrivateCupsServer::start(QString* error)
                                         "LogLevel warn\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
                                         "<Location />\n  Order allow,deny\n  Allow all\n</Location>\n"
                                         "<Location /admin>\n  Order allow,deny\n  Allow all\n</Location>\n"
-                                        "<Policy default>\n  JobPrivateAccess all\n  JobPrivateValues none\n"
+                                        "<Policy default>\n  JobPrivateAccess default\n  JobPrivateValues %2\n"
                                         "  <Limit All>\n    Order deny,allow\n  </Limit>\n</Policy>\n")
-                             .arg(m_port);
+                             .arg(m_port)
+                             .arg(m_privateValues);
     const auto rw = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
     if (!writeFile(path(QStringLiteral("bin/backend/capture")), backendScript, rwx | rx, error)
         || !writeFile(path(QStringLiteral("cups-files.conf")), files.toUtf8(), rw, error)
@@ -209,7 +210,7 @@ bool PrivateCupsServer::waitForJob(const QString& queue, int id, CapturedJob* jo
     }
 }
 
-QString PrivateCupsServer::jobAttribute(int jobId, const QString& name) const
+QString PrivateCupsServer::jobAttribute(int jobId, const QString& name, const QString& user) const
 {
     http_t* http = httpConnect2("127.0.0.1", m_port, nullptr, AF_INET, HTTP_ENCRYPTION_NEVER, 1, 10000, nullptr);
     if (!http)
@@ -218,7 +219,8 @@ QString PrivateCupsServer::jobAttribute(int jobId, const QString& name) const
     httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "127.0.0.1", m_port, "/jobs/%d", jobId);
     ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
+                 user.isEmpty() ? cupsUser() : user.toUtf8().constData());
     ipp_t* response = cupsDoRequest(http, request, "/");
     QString value;
     if (ipp_attribute_t* a = ippFindAttribute(response, name.toUtf8().constData(), IPP_TAG_ZERO)) {

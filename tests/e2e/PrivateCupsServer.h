@@ -37,6 +37,9 @@ public:
     PrivateCupsServer(const PrivateCupsServer&) = delete;
     PrivateCupsServer& operator=(const PrivateCupsServer&) = delete;
 
+    // The job attributes only their owner may read (cupsd.conf's
+    // JobPrivateValues); "none" unless set before start().
+    void setJobPrivateValues(const QString& values) { m_privateValues = values; }
     // Whether a private cupsd can run here; *why says why not.
     static bool canRun(QString* why);
     // Starts the server and points this process's libcups at it and at the
@@ -61,7 +64,8 @@ public:
     // Waits until the backend has finished job `id` of the queue.
     bool waitForJob(const QString& queue, int id, CapturedJob* job, int timeoutMs = 20000) const;
     // An attribute of a job as the server reports it, as text (null when unknown).
-    QString jobAttribute(int jobId, const QString& name) const;
+    // Asked as user `user` (this process's user when empty).
+    QString jobAttribute(int jobId, const QString& name, const QString& user = QString()) const;
     QString errorLog() const;
 
 private:
@@ -70,4 +74,5 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
     QProcess m_cupsd;
     quint16 m_port = 0;
+    QString m_privateValues = QStringLiteral("none");
 };

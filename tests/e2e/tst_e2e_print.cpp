@@ -18,6 +18,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <algorithm>
 
 class TestE2EPrint : public QObject {
     Q_OBJECT
@@ -213,6 +214,12 @@ private slots:
         QTest::newRow("unknown queue") << QStringList{"--print", "@good", "--printer", "nosuchqueue"} << 2 << "nosuchqueue";
         QTest::newRow("choice the PPD lacks") << QStringList{"--print", "@good", "-o", "Duplex=Sideways"} << 2 << "Sideways";
         QTest::newRow("queue not accepting") << QStringList{"--print", "@good"} << 1 << "accepting";
+        for (const char* bad : {"copies=abc", "copies=0", "number-up=3", "page-ranges=z-a", "orientation-requested=7"})
+            QTest::newRow(bad) << QStringList{"--print", "@good", "-o", bad} << 2 << QString::fromLatin1(bad);
+        QTest::newRow("conflict only hardware could resolve")
+            << QStringList{"--print", "@good", "-o", "Option4=False JobSetting=Store"} << 2 << "conflicts with Option4=False";
+        QTest::newRow("server not running") << QStringList{"--print", "@good", "--server", "127.0.0.1:1"} << 2
+                                            << "127.0.0.1:1 cannot be reached: is the scheduler running?";
     }
 
     void failuresSendNothing()
@@ -233,6 +240,59 @@ private slots:
         QVERIFY2(lines.first().contains(message, Qt::CaseInsensitive), qPrintable(lines.first()));
         QVERIFY(out.isEmpty());
         QCOMPARE(jobsOnServer(), before);
+    }
+
+    // A queue whose saved defaults hold an IPP attribute (grey) opens with
+    // it as a mark; the user's colour choice then goes out
+    // alone, with no print-color-mode that a filter would honour instead.
+    // Without --printer the job goes to the default destination.
+    void savedIppDefaultsBecomeMarks()
+    {
+        QString error, out, err;
+        QVERIFY2(m_server.addQueue("grey", TestSupport::samplePPD(), &error), qPrintable(error));
+        QVERIFY(m_server.runClient("lpadmin", {"-p", "grey", "-o", "print-color-mode-default=monochrome"}, &out));
+        QVERIFY(m_server.runClient("lpadmin", {"-d", "grey"}, &out));
+        auto session = PanelSession::open({{}, {}, m_server.address(), {}, {}}, &error);
+        QVERIFY2(session, qPrintable(error));
+        QCOMPARE(session->options().printer, QStringLiteral("grey"));
+        const auto opened = session->host().jobOptions();
+        QStringList shown;
+        for (const auto& [k, v] : opened)
+            shown << k + '=' + v;
+        QVERIFY2(shown.contains("ColorModel=Gray"), qPrintable(shown.join(' ')));
+        QVERIFY(std::none_of(opened.cbegin(), opened.cend(), [](const auto& o) { return o.first == "print-color-mode"; }));
+
+        const int status = TestSupport::runApp({"--server", m_server.address(), "--print", writeDocument("c.txt", "colour\n"),
+                                                "-o", "ColorModel=RGBA"}, &out, &err, m_server.clientEnvironment());
+        QVERIFY2(status == 0, qPrintable(err));
+        static const QRegularExpression re(QStringLiteral("request id is grey-(\\d+) "));
+        PrivateCupsServer::CapturedJob job;
+        QVERIFY2(m_server.waitForJob("grey", re.match(out).captured(1).toInt(), &job), qPrintable(out + m_server.errorLog()));
+        const QMap<QString, QString> got = job.parsedOptions();
+        QCOMPARE(got.value("ColorModel"), QStringLiteral("RGBA"));
+        QVERIFY2(got.value("print-color-mode", "color") == QLatin1String("color"), qPrintable(job.options()));
+    }
+
+    // With JobPrivateValues naming the password options, another user
+    // reading the job learns nothing of them; the backend still gets them.
+    void secretsAreTheOwnersAlone()
+    {
+        PrivateCupsServer server;
+        server.setJobPrivateValues(QStringLiteral("job-name job-originating-host-name job-originating-user-name phone "
+                                                  "EnterPassword ConfirmPassword AccountPassword ConfirmAcctPassword PINCode "
+                                                  "NewPIN ConfirmNewPIN HCSEnterPassword HCSConfirmPassword job-password"));
+        QString error, out, err;
+        QVERIFY2(server.start(&error) && server.addQueue("q", TestSupport::samplePPD(), &error), qPrintable(error));
+        const QString secret = QStringLiteral("Hid-3n-Pw");
+        QVERIFY2(TestSupport::runApp({"--printer", "q", "--server", server.address(), "--print", writeDocument("s.txt", "s\n"),
+                                      "-o", "EnterPassword=" + secret}, &out, &err, server.clientEnvironment()) == 0, qPrintable(err));
+        const int id = jobIdFrom(out);
+        PrivateCupsServer::CapturedJob job;
+        QVERIFY2(server.waitForJob("q", id, &job), qPrintable(server.errorLog()));
+        QVERIFY(job.parsedOptions().value("EnterPassword") == secret);
+        QVERIFY(server.jobAttribute(id, "EnterPassword") == secret);  // its owner may read it
+        QVERIFY(!server.jobAttribute(id, "EnterPassword", "mallory").contains(secret));
+        QVERIFY(!server.jobAttribute(id, "job-name", "mallory").contains("s.txt"));
     }
 };
 

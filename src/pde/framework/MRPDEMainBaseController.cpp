@@ -50,10 +50,14 @@ void MRPDEMainBaseController::assignContolFromFeatureArrayControls(const MRPDECo
             if (feature)
                 break;
         }
-        if (!feature || cursor >= controls.size())
+        if (!feature)
             continue;
-        registerController(row.identifier, make(feature, controls[cursor], m_dataModel));
-        ++cursor;
+        // A row past the last control still gets its controller: it shows
+        // nothing but carries the row's triggers (resets among them).
+        QWidget* control = cursor < controls.size() ? controls[cursor] : nullptr;
+        registerController(row.identifier, make(feature, control, m_dataModel));
+        if (control)
+            ++cursor;
     }
     for (qsizetype i = cursor; i < controls.size(); ++i)
         if (controls[i])

@@ -188,6 +188,10 @@ bool MRPDE_MACGraphicsPaperController::loadTabThree()
                                                                            QStringLiteral("KEY_PreferredColorCheck"),
                                                                            u.preferredColorCheckButton);
         PDEFeaturePtr preferred = dataModel()->featureWithKey(QStringLiteral("PreferredColorCheck"));
+        // Observed before the rows are bound: the first call finds no balance
+        // or memory-colour controller to reset, so restored values survive.
+        if (preferred)
+            observeFeature(preferred, true);
         const QList<QWidget*> popUps = widgets({u.tab3PopUpButton1, u.tab3PopUpButton2, u.tab3PopUpButton3, u.tab3PopUpButton4,
                                                 u.tab3PopUpButton5, u.tab3PopUpButton6, u.tab3PopUpButton7});
         const QList<QWidget*> labels =
@@ -215,7 +219,6 @@ bool MRPDE_MACGraphicsPaperController::loadTabThree()
             assignContolFromFeatureArrayControls(PDEControllerClass<MRPDE_MACLabelController>(), prefRows,
                                                  widgets({u.tab3PrefLabel1, u.tab3PrefLabel2, u.tab3PrefLabel3, u.tab3PrefLabel4,
                                                           u.tab3PrefLabel5, u.tab3PrefLabel6}));
-            observeFeature(preferred, true);
         }
     } else {
         removeTab(u.tabViewItemLevels);
