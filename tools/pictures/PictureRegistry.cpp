@@ -15,9 +15,9 @@ void PictureRegistry::add(Maker maker)
 
 QList<PictureSpec> PictureRegistry::all()
 {
-    QList<PictureSpec> specs;
+    QList<PictureSpec> pictures;
     for (Maker m : makers())
-        specs += m();
-    std::sort(specs.begin(), specs.end(), [](const PictureSpec& a, const PictureSpec& b) { return a.name < b.name; });
-    return specs;
+        pictures += m();
+    std::sort(pictures.begin(), pictures.end(), [](const PictureSpec& a, const PictureSpec& b) { return a.name < b.name; });
+    return pictures;
 }

@@ -23,16 +23,16 @@ int main(int argc, char** argv)
     }
     const QStringList only = args.mid(1);
     int written = 0;
-    for (const PictureSpec& spec : PictureRegistry::all()) {
-        if (!only.isEmpty() && !only.contains(spec.name))
+    for (const PictureSpec& picture : PictureRegistry::all()) {
+        if (!only.isEmpty() && !only.contains(picture.name))
             continue;
-        QImage image(spec.size, QImage::Format_ARGB32_Premultiplied);
+        QImage image(picture.size, QImage::Format_ARGB32_Premultiplied);
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::Antialiasing);
-        spec.draw(painter, QRectF(QPointF(0, 0), QSizeF(spec.size)));
+        picture.draw(painter, QRectF(QPointF(0, 0), QSizeF(picture.size)));
         painter.end();
-        const QString path = out.filePath(spec.name + QStringLiteral(".png"));
+        const QString path = out.filePath(picture.name + QStringLiteral(".png"));
         if (!image.save(path, "PNG")) {
             std::fprintf(stderr, "draw-pictures: cannot write %s\n", qPrintable(path));
             return 1;
