@@ -768,6 +768,7 @@ bool MRPDE_MACJobHandlingPDEController::runJAConfirmPopUpWindow()
 {
     if (!m_jaConfirmWindow)
         return true;
+    configureJAConfirmPopUpWindowForMode(currentText("AccountType"));
     // Over the dialog that shows the panel.
     QWidget* top = mainView() ? mainView()->window() : nullptr;
     if (top && top != mainView() && m_jaConfirmWindow->parentWidget() != top)
@@ -779,18 +780,33 @@ bool MRPDE_MACJobHandlingPDEController::runJAConfirmPopUpWindow()
             break;
         }
     }
-    return m_jaConfirmWindow->exec() == QDialog::Accepted;
+    const bool confirmed = m_jaConfirmWindow->exec() == QDialog::Accepted;
+    clearJAConfirmPopUpSecrets();
+    return confirmed;
+}
+
+bool MRPDE_MACJobHandlingPDEController::confirmJAConfirmPopUpValuesWithoutWindow()
+{
+    if (!m_jaConfirmWindow)
+        return true;
+    configureJAConfirmPopUpWindowForMode(currentText("AccountType"));
+    const bool confirmed = commitJAConfirmPopUpValues();
+    clearJAConfirmPopUpSecrets();
+    return confirmed;
+}
+
+void MRPDE_MACJobHandlingPDEController::clearJAConfirmPopUpSecrets()
+{
+    // The window does not keep what was typed.
+    m_jaConfirmUi->jaConfirmPasswordTextField->clear();
+    m_jaConfirmUi->jaConfirmConfirmPasswordTextField->clear();
 }
 
 bool MRPDE_MACJobHandlingPDEController::shouldPrint()
 {
     if (needsJAConfirmation()) {
-        configureJAConfirmPopUpWindowForMode(currentText("AccountType"));
         // Without windows, the entries the job already has are confirmed as they are.
-        const bool confirmed = PDEAlerts::showsWindows() ? runJAConfirmPopUpWindow() : commitJAConfirmPopUpValues();
-        // The window does not keep what was typed.
-        for (QLineEdit* field : {m_jaConfirmUi->jaConfirmPasswordTextField, m_jaConfirmUi->jaConfirmConfirmPasswordTextField})
-            field->clear();
+        const bool confirmed = PDEAlerts::showsWindows() ? runJAConfirmPopUpWindow() : confirmJAConfirmPopUpValuesWithoutWindow();
         if (!confirmed) {
             selectTabViewItemLater(m_ui->tabViewItemJobAccounting);
             return false;

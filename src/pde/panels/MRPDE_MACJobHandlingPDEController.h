@@ -59,8 +59,11 @@ public:
     void JAConfirmPopUpCancelButton();
     // Whether this job's account is confirmed when printing starts.
     bool needsJAConfirmation();
-    // Shows the window until OK with valid entries (true) or Cancel (false).
+    // Shows the window, filled from the panel, until OK with valid entries
+    // (true) or Cancel (false).
     bool runJAConfirmPopUpWindow();
+    // Without windows: the panel's entries checked and taken as the window's OK would.
+    bool confirmJAConfirmPopUpValuesWithoutWindow();
 
     QTabWidget* tabView() const;
     Ui::JobHandling* ui() const { return m_ui.get(); }
@@ -99,6 +102,7 @@ private:
     // the panel; the entries' checks and their writing back.
     void configureJAConfirmPopUpWindowForMode(const QString& mode);
     bool commitJAConfirmPopUpValues();
+    void clearJAConfirmPopUpSecrets();
     void setPanelText(QLineEdit* field, const char* key, const QString& text);
 
     std::unique_ptr<Ui::JobHandling> m_ui;
