@@ -243,6 +243,7 @@ void JobHandlingTest::printChecks_data()
     QTest::newRow("no password") << c5500 << conf << kPrintModeAlert << "tabViewItemJobSetting";
     QTest::newRow("passwords differ") << c5500 << conf + "EnterPassword=abcd ConfirmPassword=abce" << kPrintModeAlert << "tabViewItemJobSetting";
     QTest::newRow("passwords agree") << c5500 << conf + "EnterPassword=abcd ConfirmPassword=abcd" << "" << "";
+    QTest::newRow("delayed job without a time") << c5500 << "JobSetting=Delay" << "" << "";
     QTest::newRow("secure release holds the job") << c5500 << "JobSetting=Confidential" << "" << "";
     QTest::newRow("built-in alert") << m200 << "JobSetting=Confidential EnterPassword=abcd" << kPrintModeAlert << "tabViewItemJobSetting";
     QTest::newRow("account passwords differ") << c5500 << gray + "AccountType=Accounting AccountPassword=abcd ConfirmAcctPassword=abc"
@@ -288,6 +289,8 @@ void JobHandlingTest::printChecks()
     p->host->printSettings()->remove(QStringLiteral("JobSetting"));
     QCOMPARE(p->eh->saveValuesAndReturnError(&error), saves);
     QCOMPARE(p->host->printSettings()->contains(QStringLiteral("JobSetting")), saves);
+    if (options == QLatin1String("JobSetting=Delay"))
+        QVERIFY(QDateTime::fromString(p->value("PrintAt"), QStringLiteral("MM/dd/yyyy//HH:mm")).isValid());
     // A one-field confirmation stands for both PIN entries.
     if (options.endsWith(QLatin1String("NewPIN=1234")) && alert.isEmpty())
         QCOMPARE(p->value("ConfirmNewPIN"), QStringLiteral("1234"));

@@ -548,6 +548,11 @@ bool MRPDE_MACJobHandlingPDEController::isEverythingAlright()
     for (const QList<MRPDEControllerPtr>& controllers : std::as_const(controllersMap()))
         for (const MRPDEControllerPtr& c : controllers)
             c->goingToPrint();
+    // A delayed job that was never given a time prints at the time the picker shows.
+    if (currentText("JobSetting") == QLatin1String("Delay") && currentText("PrintAt").isEmpty())
+        for (const MRPDEControllerPtr& c : controllersForIdentifier(QStringLiteral("KEY_PrintAt")))
+            if (auto* picker = dynamic_cast<MRPDE_MACDatePickerController*>(c.get()))
+                picker->stepperButtonClicked(picker->datePicker());
 
     // A refused entry brings its tab to the front.
     QWidget* faultyTab = nullptr;
