@@ -612,4 +612,63 @@
         <translation>der Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: es wurde nichts gesendet</translation>
     </message>
 </context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Job Setting</source>
+        <translation>Auftragseinstellungen</translation>
+    </message>
+    <message>
+        <source>Job Accounting</source>
+        <translation>Auftragsabrechnung</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Print Mode feature</source>
+        <translation>Geben Sie ein alphanumerisches Kennwort ein und wiederholen Sie es zur Bestätigung, um den Druckmodus zu verwenden.</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Job Accounting feature</source>
+        <translation>Geben Sie ein alphanumerisches Kennwort ein und wiederholen Sie es zur Bestätigung, um die Auftragsabrechnung zu verwenden.</translation>
+    </message>
+    <message>
+        <source>You must enter a 4-32 digit PIN Code.</source>
+        <translation>Geben Sie einen PIN-Code mit 4 bis 32 Ziffern ein.</translation>
+    </message>
+    <message>
+        <source>Job Accounting Confirmation</source>
+        <translation>Bestätigung der Auftragsabrechnung</translation>
+    </message>
+    <message>
+        <source>Account ID</source>
+        <translation>Konto-ID</translation>
+    </message>
+    <message>
+        <source>Enter the account to charge for this job, then click OK to print.</source>
+        <translation>Geben Sie das Konto ein, dem dieser Auftrag berechnet wird, und klicken Sie auf „OK“, um zu drucken.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>Confirm Password:</source>
+        <translation>Kennwort bestätigen:</translation>
+    </message>
+    <message>
+        <source>PIN Code:</source>
+        <translation>PIN-Code:</translation>
+    </message>
+    <message>
+        <source>Confirm PIN Code:</source>
+        <translation>PIN-Code bestätigen:</translation>
+    </message>
+</context>
 </TS>

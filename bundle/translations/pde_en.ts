@@ -612,4 +612,63 @@
         <translation>the printer is a PPD file without a CUPS queue: nothing was sent</translation>
     </message>
 </context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Job Setting</source>
+        <translation>Job Setting</translation>
+    </message>
+    <message>
+        <source>Job Accounting</source>
+        <translation>Job Accounting</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Print Mode feature</source>
+        <translation>You must enter an alphanumeric password and re-enter it for confirmation in order to use Print Mode feature</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Job Accounting feature</source>
+        <translation>You must enter an alphanumeric password and re-enter it for confirmation in order to use Job Accounting feature</translation>
+    </message>
+    <message>
+        <source>You must enter a 4-32 digit PIN Code.</source>
+        <translation>You must enter a 4-32 digit PIN Code.</translation>
+    </message>
+    <message>
+        <source>Job Accounting Confirmation</source>
+        <translation>Job Accounting Confirmation</translation>
+    </message>
+    <message>
+        <source>Account ID</source>
+        <translation>Account ID</translation>
+    </message>
+    <message>
+        <source>Enter the account to charge for this job, then click OK to print.</source>
+        <translation>Enter the account to charge for this job, then click OK to print.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>Confirm Password:</source>
+        <translation>Confirm Password:</translation>
+    </message>
+    <message>
+        <source>PIN Code:</source>
+        <translation>PIN Code:</translation>
+    </message>
+    <message>
+        <source>Confirm PIN Code:</source>
+        <translation>Confirm PIN Code:</translation>
+    </message>
+</context>
 </TS>

@@ -612,4 +612,63 @@
         <translation>l’imprimante est un fichier PPD sans file d’attente CUPS : rien n’a été envoyé</translation>
     </message>
 </context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Job Setting</source>
+        <translation>Paramètres du travail</translation>
+    </message>
+    <message>
+        <source>Job Accounting</source>
+        <translation>Comptabilité des travaux</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Print Mode feature</source>
+        <translation>Saisissez un mot de passe alphanumérique, puis saisissez-le de nouveau pour confirmation, afin d'utiliser le mode d'impression.</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Job Accounting feature</source>
+        <translation>Saisissez un mot de passe alphanumérique, puis saisissez-le de nouveau pour confirmation, afin d'utiliser la comptabilité des travaux.</translation>
+    </message>
+    <message>
+        <source>You must enter a 4-32 digit PIN Code.</source>
+        <translation>Saisissez un code PIN de 4 à 32 chiffres.</translation>
+    </message>
+    <message>
+        <source>Job Accounting Confirmation</source>
+        <translation>Confirmation de la comptabilité des travaux</translation>
+    </message>
+    <message>
+        <source>Account ID</source>
+        <translation>ID de compte</translation>
+    </message>
+    <message>
+        <source>Enter the account to charge for this job, then click OK to print.</source>
+        <translation>Saisissez le compte à débiter pour ce travail, puis cliquez sur OK pour imprimer.</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>Mot de passe :</translation>
+    </message>
+    <message>
+        <source>Confirm Password:</source>
+        <translation>Confirmer le mot de passe :</translation>
+    </message>
+    <message>
+        <source>PIN Code:</source>
+        <translation>Code PIN :</translation>
+    </message>
+    <message>
+        <source>Confirm PIN Code:</source>
+        <translation>Confirmer le code PIN :</translation>
+    </message>
+</context>
 </TS>

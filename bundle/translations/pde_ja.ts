@@ -612,4 +612,63 @@
         <translation>プリンタは CUPS キューのない PPD ファイルです。何も送信されませんでした</translation>
     </message>
 </context>
+<context>
+    <name>Localizable</name>
+    <message>
+        <source>Job Setting</source>
+        <translation>ジョブ設定</translation>
+    </message>
+    <message>
+        <source>Job Accounting</source>
+        <translation>ジョブアカウンティング</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Print Mode feature</source>
+        <translation>印刷モードを使用するには、英数字のパスワードを入力し、確認のためにもう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>You must enter an alphanumeric password and re-enter it for confirmation in order to use Job Accounting feature</source>
+        <translation>ジョブアカウンティングを使用するには、英数字のパスワードを入力し、確認のためにもう一度入力してください。</translation>
+    </message>
+    <message>
+        <source>You must enter a 4-32 digit PIN Code.</source>
+        <translation>4～32 桁の PIN コードを入力してください。</translation>
+    </message>
+    <message>
+        <source>Job Accounting Confirmation</source>
+        <translation>ジョブアカウンティングの確認</translation>
+    </message>
+    <message>
+        <source>Account ID</source>
+        <translation>アカウント ID</translation>
+    </message>
+    <message>
+        <source>Enter the account to charge for this job, then click OK to print.</source>
+        <translation>このジョブを課金するアカウントを入力し、[OK] をクリックして印刷してください。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Password:</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>Confirm Password:</source>
+        <translation>パスワードの確認:</translation>
+    </message>
+    <message>
+        <source>PIN Code:</source>
+        <translation>PIN コード:</translation>
+    </message>
+    <message>
+        <source>Confirm PIN Code:</source>
+        <translation>PIN コードの確認:</translation>
+    </message>
+</context>
 </TS>

@@ -41,6 +41,14 @@ void PDEAlerts::clearLastAlertText()
     lastText().clear();
 }
 
+bool PDEAlerts::showsWindows()
+{
+    if (!handler() || !qobject_cast<QGuiApplication*>(QCoreApplication::instance()))
+        return false;
+    const QString platform = QGuiApplication::platformName();
+    return !platform.startsWith(QLatin1String("offscreen")) && !platform.startsWith(QLatin1String("minimal"));
+}
+
 QString PDEAlerts::lastAlertText()
 {
     return lastText();

@@ -23,4 +23,8 @@ public:
     static QString lastAlertText();
     // Forgets the last alert, so that the next one can be told apart.
     static void clearLastAlertText();
+    // Whether the user sees windows: a handler shows the alerts and the
+    // display is a real one (not the offscreen or minimal platform). Panels
+    // ask before opening a window of their own.
+    static bool showsWindows();
 };

@@ -141,8 +141,10 @@ private slots:
             id = submitted.first().first().toInt();
             QCOMPARE(window.submittedJob(), id);
         } else {
-            // The lp command hides the password: lp sends the placeholder.
-            expected["EnterPassword"] = LpCommand::hiddenValue();
+            // The lp command hides every password and PIN: lp sends the placeholder.
+            for (auto it = expected.begin(); it != expected.end(); ++it)
+                if (PDESecrets::isSecretKey(it.key()))
+                    it.value() = LpCommand::hiddenValue();
             const QString line = LpCommand(m_queue, session->host().jobOptions(), docs).commandLine();
             QProcess bash;
             bash.start("bash", {"-c", QStringLiteral("CUPS_SERVER=%1 HOME=%2 %3").arg(m_server.address(), m_server.clientHome(), line)});

@@ -1,6 +1,6 @@
 #include "MRPDE_MACJobHandlingEH.h"
 
-#include "MRPDEMainBaseController.h"
+#include "MRPDE_MACJobHandlingPDEController.h"
 
 MRPDE_MACPanelEH::Description MRPDE_MACJobHandlingEH::description()
 {
@@ -12,9 +12,11 @@ MRPDE_MACPanelEH::Description MRPDE_MACJobHandlingEH::description()
             {"JobSetting", "USERID", "JOBNAME", "PrintAt", "PrivateCheck", "AccountType", "Permission", "PINCode"}};
 }
 
-std::shared_ptr<MRPDE_MACJobHandlingEH> MRPDE_MACJobHandlingEH::create(std::shared_ptr<PDEBundle>,
-                                                                       std::shared_ptr<MRPDE_MACChangeHandlerModel>)
+std::shared_ptr<MRPDE_MACJobHandlingEH> MRPDE_MACJobHandlingEH::create(std::shared_ptr<PDEBundle> bundle,
+                                                                       std::shared_ptr<MRPDE_MACChangeHandlerModel> model)
 {
-    // The panel's view controller is not part of this build yet.
-    return nullptr;
+    auto controller = std::make_unique<MRPDE_MACJobHandlingPDEController>(model.get());
+    if (!controller->mainView())
+        return nullptr;
+    return std::make_shared<MRPDE_MACJobHandlingEH>(std::move(bundle), std::move(model), std::move(controller), description());
 }
