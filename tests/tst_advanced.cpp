@@ -7,6 +7,9 @@
 #include "TestSupport.h"
 #include "ui_AdvancedOptionPDE.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QTest>
 
 namespace {
@@ -72,6 +75,7 @@ private slots:
         QTest::newRow("plain") << "DRAFT" << "DRAFT";
         QTest::newRow("only marks") << ",','" << "c|$ma*&||q*u&tn|c|$ma*&||q*u&tn|";
         QTest::newRow("control characters kept") << "a\tb\x01" << "a\tb\x01";
+        QTest::newRow("longer than typing allows") << QString(300, QLatin1Char('x')) + "," << QString(300, QLatin1Char('x')) + "c|$ma*&|";
     }
     void escapes()
     {
@@ -271,6 +275,34 @@ private slots:
         QCOMPARE(panel != nullptr, !printer.isEmpty());
         if (panel)
             QTEST(panel->supportedPPDOptionKeys(), "keys");
+    }
+
+    // The command line in both measurement systems: lengths are shown in the
+    // user's unit and travel in inches.
+    void headless_data()
+    {
+        QTest::addColumn<QString>("measurement");
+        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("written");
+        QTest::newRow("metric") << "de_DE.UTF-8" << "13" << "PosterOverlap=0.51";
+        QTest::newRow("inch") << "en_US.UTF-8" << "0.50" << "PosterOverlap=0.50";
+    }
+    void headless()
+    {
+        QFETCH(QString, measurement);
+        const QStringList env{"LC_ALL=", "LANG=", "LC_MEASUREMENT=" + measurement};
+        const QStringList options{"-o", "VELPosterOption=Poster2x2 PosterOverlap=0.5"};
+        QString out, err;
+        QCOMPARE(TestSupport::runApp(QStringList{"--describe"} + options, &out, &err, env), 0);
+        QJsonObject panel;
+        for (const QJsonValue& p : QJsonDocument::fromJson(out.toUtf8()).object().value("panels").toArray())
+            if (p.toObject().value("kind").toString().endsWith(QStringLiteral("AdvancedOptionKind")))
+                panel = p.toObject();
+        const QJsonObject controls = panel.value("controls").toObject();
+        QTEST(controls.value("overlapField").toObject().value("text").toString(), "shown");
+        QCOMPARE(controls.value("posterView").toObject().value("image").toString(), QStringLiteral("C_poster2_2"));
+        QCOMPARE(TestSupport::runApp(QStringList{"--print-options"} + options, &out, &err, env), 0);
+        QTEST(out.split(QLatin1Char('\n')).filter(QStringLiteral("PosterOverlap=")).value(0), "written");
     }
 
     // Every concept picture the panel can ask for is in the bundle.

@@ -28,9 +28,7 @@ void MRBookletController::initializeUI()
     m_ui->SheetStepper->setRange(1, qMax(1, maximum));
     m_ui->SheetperSetField->setMaximumPerSet(maxperset);
     m_ui->SheetperSetDes->setText(description);
-    QFont small = m_ui->SheetperSetDes->font();
-    small.setPointSize(11);
-    m_ui->SheetperSetDes->setFont(small);
+    MRStandalonePDE::setSystemFontSize(m_ui->SheetperSetDes, 11);
     const auto title = [p](const char* key) { return QStringLiteral("%1:").arg(p->getLocalizationWithKey(QString::fromLatin1(key))); };
     m_ui->BookletTitle->setText(title("VELBookletOption"));
     m_ui->FoldermethodTitle->setText(title("VELFoldMethod"));
@@ -39,7 +37,7 @@ void MRBookletController::initializeUI()
     m_ui->GutterTitle->setText(title("GutterTitle"));
     m_ui->RightBindingCheckBox->setText(p->getLocalizationWithKey(QStringLiteral("RightBindingTitle")));
     m_ui->BookletNupTitle->setText(p->getLocalizationWithKey(QStringLiteral("NupTitle")));
-    m_ui->BookletNupTitle->setFont(small);
+    MRStandalonePDE::setSystemFontSize(m_ui->BookletNupTitle, 11);
     m_ui->BookletNupBorderTitle->setText(title("PageBorderTitle"));
     m_ui->BookletNupLayoutTitle->setText(title("PagePerSideTitle"));
     m_ui->BookletNupPageOrderTitle->setText(title("PageOrder"));

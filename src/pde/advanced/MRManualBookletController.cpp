@@ -23,9 +23,7 @@ void MRManualBookletController::showSelectedManualBookletSettings(int index)
     for (const Tip& tip : tips) {
         MRStandalonePDE::setLabelActive(tip.label, index != 0);
         tip.label->setText(AdvancedOptionPDEObject->getLocalizationWithKey(QString::fromLatin1(tip.key)));
-        QFont font = tip.label->font();
-        font.setPointSize(tip.size);
-        tip.label->setFont(font);
+        MRStandalonePDE::setSystemFontSize(tip.label, tip.size);
     }
     const PDEBundle* bundle = AdvancedOptionPDEObject->pluginBundle().get();
     MRStandalonePDE::setImage(m_ui->Step1ImageView, bundle, QStringLiteral("itdrvM1"));

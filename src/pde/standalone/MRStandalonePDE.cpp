@@ -10,6 +10,7 @@
 #include "PMPrintSettings.h"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QComboBox>
 #include <QLabel>
 #include <QLocale>
@@ -116,6 +117,15 @@ int MRStandalonePDE::indexOfMarkedOptionForKey(const QString& key) const
         return -1;
     }
     return int(choice - option->choices);
+}
+
+void MRStandalonePDE::setViewTitleByTagFromOptions(QWidget* view, const QString& tag, const QString& optionKey) const
+{
+    QLabel* label = view ? view->findChild<QLabel*>(tag) : nullptr;
+    ppd_option_t* option = m_ppd ? ppdFindOption(m_ppd, optionKey.toUtf8().constData()) : nullptr;
+    const QString title = CreateOptionTitle(option);
+    if (label && !title.isNull())
+        label->setText(title);
 }
 
 QString MRStandalonePDE::LocalizationsInfo() const
@@ -227,6 +237,15 @@ void MRStandalonePDE::setImageFromFile(QLabel* view, const QString& path)
     const QPixmap pixmap(path);
     view->setPixmap(pixmap);
     view->setProperty("imageName", pixmap.isNull() ? QVariant(QString()) : QVariant(path));
+}
+
+void MRStandalonePDE::setSystemFontSize(QWidget* widget, int points)
+{
+    if (!widget)
+        return;
+    QFont font = QApplication::font();
+    font.setPointSizeF(font.pointSizeF() * points / 13.0);
+    widget->setFont(font);
 }
 
 void MRStandalonePDE::setLabelActive(QWidget* label, bool active)

@@ -59,6 +59,9 @@ public:
     // The position of the marked (else the default) choice of the PPD option
     // within its choices; -1 when there is none.
     int indexOfMarkedOptionForKey(const QString& key) const;
+    // Sets the text of the view's label named `tag` to the PPD option's own
+    // title (its text in the PPD); nothing when either is missing.
+    void setViewTitleByTagFromOptions(QWidget* view, const QString& tag, const QString& optionKey) const;
     // The user's language of the bundle ("en", "de", ...).
     QString LocalizationsInfo() const;
     // The translation of key in the panel's string table (the key when none).
@@ -88,6 +91,9 @@ public:
     static void setImage(QLabel* view, const PDEBundle* bundle, const QString& name);
     // Shows a picture from a file path (a PPD may name its own pictures).
     static void setImageFromFile(QLabel* view, const QString& path);
+    // Sets a text's size as a system font of that many points at the usual
+    // 13-point system size: 11 is a little smaller than the desktop's font.
+    static void setSystemFontSize(QWidget* widget, int points);
     // Draws a label's text black (active) or grey (inactive).
     static void setLabelActive(QWidget* label, bool active);
 
