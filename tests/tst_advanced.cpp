@@ -105,6 +105,9 @@ private slots:
         QTest::newRow("size 401") << false << "WMFontSize=401" << "" << "" << "WMFontSize" << "400";
         QTest::newRow("size malformed") << false << "WMFontSize=big" << "" << "" << "WMFontSize" << "120";
         QTest::newRow("size typed 5") << false << "" << "fontSizeTextField" << "5" << "WMFontSize" << "8";
+        QTest::newRow("saved size stands over the watermark's") << false << "VELWatermarkOption=Confidential WMFontSize=200" << "" << ""
+                                                             << "WMFontSize" << "200";
+        QTest::newRow("the watermark's own size") << false << "VELWatermarkOption=Draft" << "" << "" << "WMFontSize" << "160";
         QTest::newRow("colour out of range") << false << "WMColor=9" << "" << "" << "WMColor" << "0";
         QTest::newRow("shade default") << false << "" << "" << "" << "WMShade" << "2";
         QTest::newRow("angle default") << false << "" << "" << "" << "WMAngleNumber" << "45";
@@ -135,6 +138,7 @@ private slots:
         Opened o = openPanel(QStringLiteral("velmora-c5500"), options, metric);
         if (!field.isEmpty())
             o.panel->panelView()->findChild<QLineEdit*>(field)->setText(typed);
+        o.panel->tabViewDidSelectTabViewItem(1);  // a refresh keeps what is shown
         QVERIFY(o.panel->saveValuesAndReturnError(nullptr));
         QCOMPARE(o.host->printSettings()->value(key), written);
     }

@@ -269,8 +269,12 @@ void MRAdvancedOptionPDE::updateUI()
     selectInPopUp(m_ui->FoldermethodPopup, m_foldmethodSelection, m_foldmethodOption);
     selectInPopUp(m_ui->FoldingOptionsPopup, m_foldingoptionSelection, m_foldingoptionOption);
     selectInPopUp(m_ui->OutputSizePopup, m_pagesizeSelection, m_PagesizeOption);
-    if (m_watermarkSelection)
-        m_watermark->showSelectedWatermarkSettings(selectionIndex(m_watermarkSelection, m_watermarkOption));
+    if (m_watermarkSelection) {
+        // A watermark brings its settings when it is chosen, not on every refresh.
+        const int index = selectionIndex(m_watermarkSelection, m_watermarkOption);
+        m_watermark->showSelectedWatermarkSettings(index, index != m_shownWatermarkIndex);
+        m_shownWatermarkIndex = index;
+    }
     if (m_bookletSelection)
         m_booklet->showSelectedBookletSettings(selectionIndex(m_bookletSelection, m_bookletOption));
     m_manualBooklet->showSelectedManualBookletSettings(qMax(0, selectionIndex(m_manualbookletSelection, m_manualbookletOption)));
@@ -432,6 +436,11 @@ bool MRAdvancedOptionPDE::restoreValuesAndReturnError(QString*)
     if (useConstraintHandling())
         updateMarkedSelections();
     getNonPPDSettingsFromPrintSettings();
+    // Saved watermark settings stand; without them the watermark's own apply.
+    bool saved = false;
+    for (const char* key : {kNSWatermarkFontNameKey, kNSWatermarkFontSizeKey, kNSWatermarkColorKey, kNSWatermarkAngleKey})
+        saved = saved || !readValue(key).isNull();
+    m_shownWatermarkIndex = saved ? selectionIndex(m_watermarkSelection, m_watermarkOption) : -1;
     updateUI();
     return true;
 }

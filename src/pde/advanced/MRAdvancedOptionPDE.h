@@ -184,7 +184,8 @@ private:
     std::unique_ptr<MRPosterController> m_poster;
     QStringList m_supportedOptions;
     bool m_metric;
-    bool m_posterForcedOff = false;
+    // The watermark whose settings the controls were last filled with.
+    int m_shownWatermarkIndex = -1;
     unsigned m_nCopiesValue = 1;
     int m_nupvalue = 1;
 };

@@ -193,7 +193,7 @@ void MRWatermarkController::setControlsEnabled(bool enabled)
         MRStandalonePDE::setLabelActive(label, enabled);
 }
 
-void MRWatermarkController::showSelectedWatermarkSettings(int index)
+void MRWatermarkController::showSelectedWatermarkSettings(int index, bool fill)
 {
     _PDELog(this, QStringLiteral("III <<WatermakrController: showSelectedWatermarkSettings >>"));
     SelectWatermarkandAngleAction();
@@ -223,7 +223,7 @@ void MRWatermarkController::showSelectedWatermarkSettings(int index)
         MRStandalonePDE::setLabelActive(m_ui->messageFieldTitle, false);
     }
     m_ui->fontColorButton->setEnabled(colour);
-    for (const QVariantMap& record : records) {
+    for (const QVariantMap& record : fill ? records : QList<QVariantMap>()) {
         if (record.value(QStringLiteral("string")).toString() == m_selectedWatermarkString) {
             fillFromRecord(record);
             break;

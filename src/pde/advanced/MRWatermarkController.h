@@ -40,9 +40,10 @@ public:
     void upAndDownFontSize();
     void upAndDownMessageAngle();
 
-    // Enables the controls for the watermark pop-up's index and fills them
-    // from the chosen watermark's record.
-    void showSelectedWatermarkSettings(int index);
+    // Enables the controls for the watermark pop-up's index and, with fill,
+    // fills them from the chosen watermark's record (without it the user's
+    // own changes to the watermark's settings stand).
+    void showSelectedWatermarkSettings(int index, bool fill = true);
     QString selectedWatermarkString() const { return m_selectedWatermarkString; }
 
     // The watermark records of "WatermarkData", and the display strings of
