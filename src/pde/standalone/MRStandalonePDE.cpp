@@ -16,6 +16,7 @@
 #include <QLocale>
 #include <QMetaMethod>
 #include <QPixmap>
+#include <QToolButton>
 #include <cups/ppd.h>
 
 namespace {
@@ -195,6 +196,9 @@ void MRStandalonePDE::showAdvanced(bool show)
 {
     if (m_advancedButton)
         m_advancedButton->setChecked(show);
+    // A disclosure triangle points down while its part is open.
+    if (auto* triangle = qobject_cast<QToolButton*>(m_advancedButton.data()); triangle && triangle->arrowType() != Qt::NoArrow)
+        triangle->setArrowType(show ? Qt::DownArrow : Qt::RightArrow);
     if (m_advancedView)
         m_advancedView->setVisible(show);
     if (m_pdeView)
