@@ -181,6 +181,11 @@ QWidget* MRAdvancedOptionPDE::panelView()
     }
     if (!m_foldingoptionOption.option)
         m_ui->BookletFoldingImageView->hide();
+    // Without booklet printing only manual booklet remains on its tab.
+    if (!m_bookletOption.option) {
+        m_ui->bookletcustomview->hide();
+        m_ui->BookletNUPBOX->hide();
+    }
 
     connect(m_ui->WatermarkPopUp, &QComboBox::activated, this, &MRAdvancedOptionPDE::changeWatermarkOption);
     connect(m_ui->PosterPopUp, &QComboBox::activated, this, &MRAdvancedOptionPDE::changePosterOption);
@@ -218,7 +223,7 @@ void MRAdvancedOptionPDE::initializeUI()
     fillPopUp(m_ui->BookletNupLayoutPopup, kNupLayoutKeys, this);
     fillPopUp(m_ui->BookletNupPageOrderPopup, kNupOrderKeys, this);
     // A printer that makes booklets only in their basic form has no gutter or binding side.
-    m_booklet->hideGutterAndRightBindingOptions(BasicBookletstr() == QLatin1String("True"));
+    m_booklet->hideGutterAndRightBindingOptions(BasicBookletstr() == QLatin1String("True") || !m_bookletOption.option);
     setHasInited(true);
     _PDELog(this, QStringLiteral("initializeUI:=void"));
     updateUI();
