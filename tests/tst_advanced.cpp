@@ -4,6 +4,7 @@
 #include "MRAdvancedUnits.h"
 #include "MRPosterController.h"
 #include "PDEBundle.h"
+#include "PDELogSink.h"
 #include "TestSupport.h"
 #include "ui_AdvancedOptionPDE.h"
 
@@ -116,11 +117,14 @@ private slots:
         QTest::newRow("overlap inch default") << false << "" << "" << "" << "PosterOverlap" << "0.16";
         QTest::newRow("overlap inch 1.5") << false << "PosterOverlap=1.5" << "" << "" << "PosterOverlap" << "1.00";
         QTest::newRow("overlap inch malformed") << false << "PosterOverlap=1..2" << "" << "" << "PosterOverlap" << "0.16";
+        QTest::newRow("overlap not a number") << false << "PosterOverlap=nan" << "" << "" << "PosterOverlap" << "0.16";
+        QTest::newRow("overlap negative") << false << "PosterOverlap=-1" << "" << "" << "PosterOverlap" << "0.16";
         QTest::newRow("overlap mm default") << true << "" << "" << "" << "PosterOverlap" << "0.16";
         QTest::newRow("overlap mm typed 30") << true << "" << "overlapField" << "30" << "PosterOverlap" << "0.98";
         QTest::newRow("overlap mm round trip") << true << "PosterOverlap=0.51" << "" << "" << "PosterOverlap" << "0.51";
         QTest::newRow("sheets default is the PPD's") << false << "" << "" << "" << "BookletSheetperSet" << "10";
         QTest::newRow("sheets above the PPD's") << false << "BookletSheetperSet=12" << "" << "" << "BookletSheetperSet" << "10";
+        QTest::newRow("sheets negative") << false << "BookletSheetperSet=-5" << "" << "" << "BookletSheetperSet" << "1";
         QTest::newRow("gutter inch 1.2") << false << "BookletGutterSize=1.2" << "" << "" << "BookletGutterSize" << "0.98";
         QTest::newRow("gutter inch default") << false << "" << "" << "" << "BookletGutterSize" << "0.00";
         QTest::newRow("gutter mm typed 30") << true << "" << "GutterTextField" << "30" << "BookletGutterSize" << "0.98";
@@ -135,12 +139,16 @@ private slots:
         QFETCH(QString, typed);
         QFETCH(QString, key);
         QFETCH(QString, written);
+        PDELogCapture log;
         Opened o = openPanel(QStringLiteral("velmora-c5500"), options, metric);
         if (!field.isEmpty())
             o.panel->panelView()->findChild<QLineEdit*>(field)->setText(typed);
         o.panel->tabViewDidSelectTabViewItem(1);  // a refresh keeps what is shown
         QVERIFY(o.panel->saveValuesAndReturnError(nullptr));
         QCOMPARE(o.host->printSettings()->value(key), written);
+        // A value read that had to be replaced is reported.
+        const bool replaced = options.contains(key + "=") && !options.contains(key + "=" + written);
+        QCOMPARE(!log.lines().filter("ERROR : the print setting " + key + " ").isEmpty(), replaced);
     }
 
     void watermarkEnabling_data()
