@@ -206,6 +206,350 @@
         <source>HoldForUser</source>
         <translation>Bis zur Freigabe halten</translation>
     </message>
+    <message>
+        <source>AdvancedOptions</source>
+        <translation>Erweiterte Optionen</translation>
+    </message>
+    <message>
+        <source>WatermarkTab</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>BookletTab</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>PosterTab</source>
+        <translation>Poster</translation>
+    </message>
+    <message>
+        <source>PrintingTip</source>
+        <translation>Drucktipps</translation>
+    </message>
+    <message>
+        <source>ConceptPreview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>VELWatermarkOption</source>
+        <translation>Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>VELPosterOption</source>
+        <translation>Poster</translation>
+    </message>
+    <message>
+        <source>VELBookletOption</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>VELFoldMethod</source>
+        <translation>Falzmethode</translation>
+    </message>
+    <message>
+        <source>VELBookletFinishing</source>
+        <translation>Broschürenendbearbeitung</translation>
+    </message>
+    <message>
+        <source>BookletOutputPageSize</source>
+        <translation>Ausgabepapierformat</translation>
+    </message>
+    <message>
+        <source>VELManualBookletOption</source>
+        <translation>Manuelle Broschüre</translation>
+    </message>
+    <message>
+        <source>TopSecret</source>
+        <translation>Streng geheim</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Poster2x2</source>
+        <translation>2 x 2 Seiten</translation>
+    </message>
+    <message>
+        <source>Poster3x3</source>
+        <translation>3 x 3 Seiten</translation>
+    </message>
+    <message>
+        <source>Poster4x4</source>
+        <translation>4 x 4 Seiten</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Broschüre</translation>
+    </message>
+    <message>
+        <source>BookletNup</source>
+        <translation>Broschüre mit mehreren Seiten pro Blattseite</translation>
+    </message>
+    <message>
+        <source>AllSheets</source>
+        <translation>Alle Blätter zusammen</translation>
+    </message>
+    <message>
+        <source>BySet</source>
+        <translation>Satzweise falzen</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Falzen</translation>
+    </message>
+    <message>
+        <source>FoldStitch</source>
+        <translation>Falzen und heften</translation>
+    </message>
+    <message>
+        <source>FontNameTitle</source>
+        <translation>Schrift</translation>
+    </message>
+    <message>
+        <source>FontStyleTitle</source>
+        <translation>Schriftschnitt</translation>
+    </message>
+    <message>
+        <source>FontColorTitle</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>FontSizeTitle</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>FontShadeTitle</source>
+        <translation>Dichte</translation>
+    </message>
+    <message>
+        <source>AngleTitle</source>
+        <translation>Winkel</translation>
+    </message>
+    <message>
+        <source>MessageFieldTitle</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>FirstPageButtonTitle</source>
+        <translation>Nur erste Seite</translation>
+    </message>
+    <message>
+        <source>FontSizeRange</source>
+        <translation>(8 - 400 pt)</translation>
+    </message>
+    <message>
+        <source>AngleRange</source>
+        <translation>(-90 - 90°)</translation>
+    </message>
+    <message>
+        <source>No Watermark</source>
+        <translation>Kein Wasserzeichen</translation>
+    </message>
+    <message>
+        <source>ColorGray</source>
+        <translation>Grau</translation>
+    </message>
+    <message>
+        <source>ColorRed</source>
+        <translation>Rot</translation>
+    </message>
+    <message>
+        <source>ColorYellow</source>
+        <translation>Gelb</translation>
+    </message>
+    <message>
+        <source>ColorGreen</source>
+        <translation>Grün</translation>
+    </message>
+    <message>
+        <source>ColorCyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>ColorBlue</source>
+        <translation>Blau</translation>
+    </message>
+    <message>
+        <source>ColorMagenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>ExtraDark</source>
+        <translation>Sehr dunkel</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Mittel</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>ExtraLight</source>
+        <translation>Sehr hell</translation>
+    </message>
+    <message>
+        <source>HorizontalTitle</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>VerticalTitle</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>FreeAngleTitle</source>
+        <translation>Eigener Winkel</translation>
+    </message>
+    <message>
+        <source>SheetsPerSetTitle</source>
+        <translation>Blätter pro Satz</translation>
+    </message>
+    <message>
+        <source>SheetsPerSetTitleSign</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>GutterTitle</source>
+        <translation>Bundsteg</translation>
+    </message>
+    <message>
+        <source>GutterSizemmDes</source>
+        <translation>mm (0 - 25)</translation>
+    </message>
+    <message>
+        <source>GutterSizeInchDes</source>
+        <translation>Zoll (0,00 - 0,98)</translation>
+    </message>
+    <message>
+        <source>RightBindingTitle</source>
+        <translation>Bindung rechts</translation>
+    </message>
+    <message>
+        <source>NupTitle</source>
+        <translation>Seiten pro Broschürenseite</translation>
+    </message>
+    <message>
+        <source>PageBorderTitle</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>PagePerSideTitle</source>
+        <translation>Seiten pro Blattseite</translation>
+    </message>
+    <message>
+        <source>PageOrder</source>
+        <translation>Seitenfolge</translation>
+    </message>
+    <message>
+        <source>BorderNone</source>
+        <translation>Keiner</translation>
+    </message>
+    <message>
+        <source>BorderSingleHairline</source>
+        <translation>Einfache Haarlinie</translation>
+    </message>
+    <message>
+        <source>BorderSingleThinLine</source>
+        <translation>Einfache dünne Linie</translation>
+    </message>
+    <message>
+        <source>BorderDoubleHairline</source>
+        <translation>Doppelte Haarlinie</translation>
+    </message>
+    <message>
+        <source>BorderDoubleThinLine</source>
+        <translation>Doppelte dünne Linie</translation>
+    </message>
+    <message>
+        <source>PagesPerSide1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>PagesPerSide2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>PagesPerSide4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>PagesPerSide6</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>PagesPerSide9</source>
+        <translation>9</translation>
+    </message>
+    <message>
+        <source>PagesPerSide16</source>
+        <translation>16</translation>
+    </message>
+    <message>
+        <source>OrderLeftRightTopBottom</source>
+        <translation>Links nach rechts, oben nach unten</translation>
+    </message>
+    <message>
+        <source>OrderRightLeftTopBottom</source>
+        <translation>Rechts nach links, oben nach unten</translation>
+    </message>
+    <message>
+        <source>OrderTopBottomLeftRight</source>
+        <translation>Oben nach unten, links nach rechts</translation>
+    </message>
+    <message>
+        <source>OrderTopBottomRightLeft</source>
+        <translation>Oben nach unten, rechts nach links</translation>
+    </message>
+    <message>
+        <source>PrintingTipDescription</source>
+        <translation>Beim manuellen Broschürendruck bedruckt der Drucker zuerst eine Seite jedes Blatts; danach wenden Sie den Stapel und legen ihn erneut ein.</translation>
+    </message>
+    <message>
+        <source>PrintingTipCoverPage</source>
+        <translation>Verwenden Sie beim manuellen Broschürendruck kein Deckblatt.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep1</source>
+        <translation>1. Der Drucker bedruckt die erste Seite jedes Blatts.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep2</source>
+        <translation>2. Nehmen Sie den bedruckten Stapel und wenden Sie ihn.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep3</source>
+        <translation>3. Legen Sie ihn mit der leeren Seite nach oben wieder ein und fahren Sie fort.</translation>
+    </message>
+    <message>
+        <source>LayoutTitle</source>
+        <translation>Aufteilung</translation>
+    </message>
+    <message>
+        <source>OverlapTitle</source>
+        <translation>Überlappung</translation>
+    </message>
+    <message>
+        <source>OverlapMM</source>
+        <translation>mm (0 - 25)</translation>
+    </message>
+    <message>
+        <source>OverlapInch</source>
+        <translation>Zoll (0,00 - 1,00)</translation>
+    </message>
 </context>
 <context>
     <name>ManualMarginPDELocalizable</name>

@@ -206,6 +206,350 @@
         <source>HoldForUser</source>
         <translation>Hold for User</translation>
     </message>
+    <message>
+        <source>AdvancedOptions</source>
+        <translation>Advanced Options</translation>
+    </message>
+    <message>
+        <source>WatermarkTab</source>
+        <translation>Watermark</translation>
+    </message>
+    <message>
+        <source>BookletTab</source>
+        <translation>Booklet</translation>
+    </message>
+    <message>
+        <source>PosterTab</source>
+        <translation>Poster</translation>
+    </message>
+    <message>
+        <source>PrintingTip</source>
+        <translation>Printing Tips</translation>
+    </message>
+    <message>
+        <source>ConceptPreview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>VELWatermarkOption</source>
+        <translation>Watermark</translation>
+    </message>
+    <message>
+        <source>VELPosterOption</source>
+        <translation>Poster</translation>
+    </message>
+    <message>
+        <source>VELBookletOption</source>
+        <translation>Booklet</translation>
+    </message>
+    <message>
+        <source>VELFoldMethod</source>
+        <translation>Fold Method</translation>
+    </message>
+    <message>
+        <source>VELBookletFinishing</source>
+        <translation>Booklet Finishing</translation>
+    </message>
+    <message>
+        <source>BookletOutputPageSize</source>
+        <translation>Output Paper Size</translation>
+    </message>
+    <message>
+        <source>VELManualBookletOption</source>
+        <translation>Manual Booklet</translation>
+    </message>
+    <message>
+        <source>TopSecret</source>
+        <translation>Top Secret</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Custom</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>On</translation>
+    </message>
+    <message>
+        <source>Poster2x2</source>
+        <translation>2 x 2 Pages</translation>
+    </message>
+    <message>
+        <source>Poster3x3</source>
+        <translation>3 x 3 Pages</translation>
+    </message>
+    <message>
+        <source>Poster4x4</source>
+        <translation>4 x 4 Pages</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Booklet</translation>
+    </message>
+    <message>
+        <source>BookletNup</source>
+        <translation>Booklet with Pages per Side</translation>
+    </message>
+    <message>
+        <source>AllSheets</source>
+        <translation>All Sheets Together</translation>
+    </message>
+    <message>
+        <source>BySet</source>
+        <translation>Fold by Set</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Fold</translation>
+    </message>
+    <message>
+        <source>FoldStitch</source>
+        <translation>Fold and Staple</translation>
+    </message>
+    <message>
+        <source>FontNameTitle</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>FontStyleTitle</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>FontColorTitle</source>
+        <translation>Color</translation>
+    </message>
+    <message>
+        <source>FontSizeTitle</source>
+        <translation>Size</translation>
+    </message>
+    <message>
+        <source>FontShadeTitle</source>
+        <translation>Density</translation>
+    </message>
+    <message>
+        <source>AngleTitle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>MessageFieldTitle</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>FirstPageButtonTitle</source>
+        <translation>First page only</translation>
+    </message>
+    <message>
+        <source>FontSizeRange</source>
+        <translation>(8 - 400 pt)</translation>
+    </message>
+    <message>
+        <source>AngleRange</source>
+        <translation>(-90 - 90°)</translation>
+    </message>
+    <message>
+        <source>No Watermark</source>
+        <translation>No Watermark</translation>
+    </message>
+    <message>
+        <source>ColorGray</source>
+        <translation>Gray</translation>
+    </message>
+    <message>
+        <source>ColorRed</source>
+        <translation>Red</translation>
+    </message>
+    <message>
+        <source>ColorYellow</source>
+        <translation>Yellow</translation>
+    </message>
+    <message>
+        <source>ColorGreen</source>
+        <translation>Green</translation>
+    </message>
+    <message>
+        <source>ColorCyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>ColorBlue</source>
+        <translation>Blue</translation>
+    </message>
+    <message>
+        <source>ColorMagenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>ExtraDark</source>
+        <translation>Extra Dark</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Medium</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Light</translation>
+    </message>
+    <message>
+        <source>ExtraLight</source>
+        <translation>Extra Light</translation>
+    </message>
+    <message>
+        <source>HorizontalTitle</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>VerticalTitle</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>FreeAngleTitle</source>
+        <translation>Custom Angle</translation>
+    </message>
+    <message>
+        <source>SheetsPerSetTitle</source>
+        <translation>Sheets per Set</translation>
+    </message>
+    <message>
+        <source>SheetsPerSetTitleSign</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>GutterTitle</source>
+        <translation>Gutter</translation>
+    </message>
+    <message>
+        <source>GutterSizemmDes</source>
+        <translation>mm (0 - 25)</translation>
+    </message>
+    <message>
+        <source>GutterSizeInchDes</source>
+        <translation>inches (0.00 - 0.98)</translation>
+    </message>
+    <message>
+        <source>RightBindingTitle</source>
+        <translation>Right-edge binding</translation>
+    </message>
+    <message>
+        <source>NupTitle</source>
+        <translation>Pages per Side of the Booklet</translation>
+    </message>
+    <message>
+        <source>PageBorderTitle</source>
+        <translation>Border</translation>
+    </message>
+    <message>
+        <source>PagePerSideTitle</source>
+        <translation>Pages per Side</translation>
+    </message>
+    <message>
+        <source>PageOrder</source>
+        <translation>Page Order</translation>
+    </message>
+    <message>
+        <source>BorderNone</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>BorderSingleHairline</source>
+        <translation>Single Hairline</translation>
+    </message>
+    <message>
+        <source>BorderSingleThinLine</source>
+        <translation>Single Thin Line</translation>
+    </message>
+    <message>
+        <source>BorderDoubleHairline</source>
+        <translation>Double Hairline</translation>
+    </message>
+    <message>
+        <source>BorderDoubleThinLine</source>
+        <translation>Double Thin Line</translation>
+    </message>
+    <message>
+        <source>PagesPerSide1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>PagesPerSide2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>PagesPerSide4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>PagesPerSide6</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>PagesPerSide9</source>
+        <translation>9</translation>
+    </message>
+    <message>
+        <source>PagesPerSide16</source>
+        <translation>16</translation>
+    </message>
+    <message>
+        <source>OrderLeftRightTopBottom</source>
+        <translation>Left to Right, Top to Bottom</translation>
+    </message>
+    <message>
+        <source>OrderRightLeftTopBottom</source>
+        <translation>Right to Left, Top to Bottom</translation>
+    </message>
+    <message>
+        <source>OrderTopBottomLeftRight</source>
+        <translation>Top to Bottom, Left to Right</translation>
+    </message>
+    <message>
+        <source>OrderTopBottomRightLeft</source>
+        <translation>Top to Bottom, Right to Left</translation>
+    </message>
+    <message>
+        <source>PrintingTipDescription</source>
+        <translation>With manual booklet printing the printer prints one side of every sheet first; you then turn the stack over and feed it again.</translation>
+    </message>
+    <message>
+        <source>PrintingTipCoverPage</source>
+        <translation>Do not use a cover page with manual booklet printing.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep1</source>
+        <translation>1. The printer prints the first side of every sheet.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep2</source>
+        <translation>2. Take the printed stack and turn it over.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep3</source>
+        <translation>3. Put it back into the tray, blank side up, and continue.</translation>
+    </message>
+    <message>
+        <source>LayoutTitle</source>
+        <translation>Layout</translation>
+    </message>
+    <message>
+        <source>OverlapTitle</source>
+        <translation>Overlap</translation>
+    </message>
+    <message>
+        <source>OverlapMM</source>
+        <translation>mm (0 - 25)</translation>
+    </message>
+    <message>
+        <source>OverlapInch</source>
+        <translation>inches (0.00 - 1.00)</translation>
+    </message>
 </context>
 <context>
     <name>ManualMarginPDELocalizable</name>

@@ -206,6 +206,350 @@
         <source>HoldForUser</source>
         <translation>Retenir jusqu'à la libération</translation>
     </message>
+    <message>
+        <source>AdvancedOptions</source>
+        <translation>Options avancées</translation>
+    </message>
+    <message>
+        <source>WatermarkTab</source>
+        <translation>Filigrane</translation>
+    </message>
+    <message>
+        <source>BookletTab</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>PosterTab</source>
+        <translation>Affiche</translation>
+    </message>
+    <message>
+        <source>PrintingTip</source>
+        <translation>Conseils d'impression</translation>
+    </message>
+    <message>
+        <source>ConceptPreview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>VELWatermarkOption</source>
+        <translation>Filigrane</translation>
+    </message>
+    <message>
+        <source>VELPosterOption</source>
+        <translation>Affiche</translation>
+    </message>
+    <message>
+        <source>VELBookletOption</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>VELFoldMethod</source>
+        <translation>Méthode de pliage</translation>
+    </message>
+    <message>
+        <source>VELBookletFinishing</source>
+        <translation>Finition du livret</translation>
+    </message>
+    <message>
+        <source>BookletOutputPageSize</source>
+        <translation>Format du papier de sortie</translation>
+    </message>
+    <message>
+        <source>VELManualBookletOption</source>
+        <translation>Livret manuel</translation>
+    </message>
+    <message>
+        <source>TopSecret</source>
+        <translation>Très secret</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Personnalisé</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Poster2x2</source>
+        <translation>2 x 2 pages</translation>
+    </message>
+    <message>
+        <source>Poster3x3</source>
+        <translation>3 x 3 pages</translation>
+    </message>
+    <message>
+        <source>Poster4x4</source>
+        <translation>4 x 4 pages</translation>
+    </message>
+    <message>
+        <source>Booklet</source>
+        <translation>Livret</translation>
+    </message>
+    <message>
+        <source>BookletNup</source>
+        <translation>Livret avec plusieurs pages par face</translation>
+    </message>
+    <message>
+        <source>AllSheets</source>
+        <translation>Toutes les feuilles ensemble</translation>
+    </message>
+    <message>
+        <source>BySet</source>
+        <translation>Pliage par jeu</translation>
+    </message>
+    <message>
+        <source>Fold</source>
+        <translation>Plier</translation>
+    </message>
+    <message>
+        <source>FoldStitch</source>
+        <translation>Plier et agrafer</translation>
+    </message>
+    <message>
+        <source>FontNameTitle</source>
+        <translation>Police</translation>
+    </message>
+    <message>
+        <source>FontStyleTitle</source>
+        <translation>Style</translation>
+    </message>
+    <message>
+        <source>FontColorTitle</source>
+        <translation>Couleur</translation>
+    </message>
+    <message>
+        <source>FontSizeTitle</source>
+        <translation>Taille</translation>
+    </message>
+    <message>
+        <source>FontShadeTitle</source>
+        <translation>Densité</translation>
+    </message>
+    <message>
+        <source>AngleTitle</source>
+        <translation>Angle</translation>
+    </message>
+    <message>
+        <source>MessageFieldTitle</source>
+        <translation>Texte</translation>
+    </message>
+    <message>
+        <source>FirstPageButtonTitle</source>
+        <translation>Première page uniquement</translation>
+    </message>
+    <message>
+        <source>FontSizeRange</source>
+        <translation>(8 - 400 pt)</translation>
+    </message>
+    <message>
+        <source>AngleRange</source>
+        <translation>(-90 - 90°)</translation>
+    </message>
+    <message>
+        <source>No Watermark</source>
+        <translation>Aucun filigrane</translation>
+    </message>
+    <message>
+        <source>ColorGray</source>
+        <translation>Gris</translation>
+    </message>
+    <message>
+        <source>ColorRed</source>
+        <translation>Rouge</translation>
+    </message>
+    <message>
+        <source>ColorYellow</source>
+        <translation>Jaune</translation>
+    </message>
+    <message>
+        <source>ColorGreen</source>
+        <translation>Vert</translation>
+    </message>
+    <message>
+        <source>ColorCyan</source>
+        <translation>Cyan</translation>
+    </message>
+    <message>
+        <source>ColorBlue</source>
+        <translation>Bleu</translation>
+    </message>
+    <message>
+        <source>ColorMagenta</source>
+        <translation>Magenta</translation>
+    </message>
+    <message>
+        <source>ExtraDark</source>
+        <translation>Très foncé</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Foncé</translation>
+    </message>
+    <message>
+        <source>Medium</source>
+        <translation>Moyen</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>ExtraLight</source>
+        <translation>Très clair</translation>
+    </message>
+    <message>
+        <source>HorizontalTitle</source>
+        <translation>Horizontal</translation>
+    </message>
+    <message>
+        <source>VerticalTitle</source>
+        <translation>Vertical</translation>
+    </message>
+    <message>
+        <source>FreeAngleTitle</source>
+        <translation>Angle personnalisé</translation>
+    </message>
+    <message>
+        <source>SheetsPerSetTitle</source>
+        <translation>Feuilles par jeu</translation>
+    </message>
+    <message>
+        <source>SheetsPerSetTitleSign</source>
+        <translation>-</translation>
+    </message>
+    <message>
+        <source>GutterTitle</source>
+        <translation>Gouttière</translation>
+    </message>
+    <message>
+        <source>GutterSizemmDes</source>
+        <translation>mm (0 - 25)</translation>
+    </message>
+    <message>
+        <source>GutterSizeInchDes</source>
+        <translation>pouces (0,00 - 0,98)</translation>
+    </message>
+    <message>
+        <source>RightBindingTitle</source>
+        <translation>Reliure à droite</translation>
+    </message>
+    <message>
+        <source>NupTitle</source>
+        <translation>Pages par face du livret</translation>
+    </message>
+    <message>
+        <source>PageBorderTitle</source>
+        <translation>Bordure</translation>
+    </message>
+    <message>
+        <source>PagePerSideTitle</source>
+        <translation>Pages par face</translation>
+    </message>
+    <message>
+        <source>PageOrder</source>
+        <translation>Ordre des pages</translation>
+    </message>
+    <message>
+        <source>BorderNone</source>
+        <translation>Aucune</translation>
+    </message>
+    <message>
+        <source>BorderSingleHairline</source>
+        <translation>Filet simple</translation>
+    </message>
+    <message>
+        <source>BorderSingleThinLine</source>
+        <translation>Trait fin simple</translation>
+    </message>
+    <message>
+        <source>BorderDoubleHairline</source>
+        <translation>Filet double</translation>
+    </message>
+    <message>
+        <source>BorderDoubleThinLine</source>
+        <translation>Trait fin double</translation>
+    </message>
+    <message>
+        <source>PagesPerSide1</source>
+        <translation>1</translation>
+    </message>
+    <message>
+        <source>PagesPerSide2</source>
+        <translation>2</translation>
+    </message>
+    <message>
+        <source>PagesPerSide4</source>
+        <translation>4</translation>
+    </message>
+    <message>
+        <source>PagesPerSide6</source>
+        <translation>6</translation>
+    </message>
+    <message>
+        <source>PagesPerSide9</source>
+        <translation>9</translation>
+    </message>
+    <message>
+        <source>PagesPerSide16</source>
+        <translation>16</translation>
+    </message>
+    <message>
+        <source>OrderLeftRightTopBottom</source>
+        <translation>De gauche à droite, de haut en bas</translation>
+    </message>
+    <message>
+        <source>OrderRightLeftTopBottom</source>
+        <translation>De droite à gauche, de haut en bas</translation>
+    </message>
+    <message>
+        <source>OrderTopBottomLeftRight</source>
+        <translation>De haut en bas, de gauche à droite</translation>
+    </message>
+    <message>
+        <source>OrderTopBottomRightLeft</source>
+        <translation>De haut en bas, de droite à gauche</translation>
+    </message>
+    <message>
+        <source>PrintingTipDescription</source>
+        <translation>Pour un livret manuel, l'imprimante imprime d'abord un côté de chaque feuille ; retournez ensuite la pile et remettez-la dans le bac.</translation>
+    </message>
+    <message>
+        <source>PrintingTipCoverPage</source>
+        <translation>N'utilisez pas de page de garde avec un livret manuel.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep1</source>
+        <translation>1. L'imprimante imprime le premier côté de chaque feuille.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep2</source>
+        <translation>2. Prenez la pile imprimée et retournez-la.</translation>
+    </message>
+    <message>
+        <source>PrintingTipStep3</source>
+        <translation>3. Remettez-la dans le bac, face vierge vers le haut, et continuez.</translation>
+    </message>
+    <message>
+        <source>LayoutTitle</source>
+        <translation>Disposition</translation>
+    </message>
+    <message>
+        <source>OverlapTitle</source>
+        <translation>Chevauchement</translation>
+    </message>
+    <message>
+        <source>OverlapMM</source>
+        <translation>mm (0 - 25)</translation>
+    </message>
+    <message>
+        <source>OverlapInch</source>
+        <translation>pouces (0,00 - 1,00)</translation>
+    </message>
 </context>
 <context>
     <name>ManualMarginPDELocalizable</name>

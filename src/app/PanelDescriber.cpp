@@ -16,6 +16,7 @@
 #include <QStandardItemModel>
 #include <QTabWidget>
 #include <QTableView>
+#include <QToolButton>
 
 namespace {
 // The page of the nearest tab view that holds the widget, if any.
@@ -84,6 +85,11 @@ QJsonObject PanelDescriber::describeControl(QWidget* w, QWidget* view)
         o[QStringLiteral("type")] = QStringLiteral("button");
         o[QStringLiteral("checked")] = p->isChecked();
         o[QStringLiteral("title")] = p->text();
+    } else if (auto* t = qobject_cast<QToolButton*>(w); t && t->isCheckable()) {
+        // A disclosure button (a stepper's arrows are not checkable).
+        o[QStringLiteral("type")] = QStringLiteral("button");
+        o[QStringLiteral("checked")] = t->isChecked();
+        o[QStringLiteral("title")] = t->text();
     } else if (auto* e = qobject_cast<QLineEdit*>(w)) {
         if (e->echoMode() == QLineEdit::Password || e->echoMode() == QLineEdit::NoEcho) {
             o[QStringLiteral("type")] = QStringLiteral("securefield");

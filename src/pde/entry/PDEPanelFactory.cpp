@@ -1,5 +1,6 @@
 #include "PDEPanelFactory.h"
 
+#include "MRAdvancedOptionPDE.h"
 #include "MRPDE_MACFinishingEH.h"
 #include "MRPDE_MACGraphicsPaperEH.h"
 #include "MRPDE_MACJobHandlingEH.h"
@@ -22,7 +23,7 @@ const QList<Standalone>& standalonePanels()
 {
     static const QList<Standalone> list{
         {"MRSecureReleasePDE", nullptr},
-        {"MRAdvancedOptionPDE", nullptr},
+        {"MRAdvancedOptionPDE", &MRAdvancedOptionPDE::create},
         {"MRManualDuplexPDE", nullptr},
         {"MRSpecialPagePDE", nullptr},
         {"MRManualMarginPDE", nullptr},

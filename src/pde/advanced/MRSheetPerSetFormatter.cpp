@@ -1,0 +1,6 @@
+#include "MRSheetPerSetFormatter.h"
+
+bool MRSheetPerSetFormatter::isPartialStringValid(const QString& proposed) const
+{
+    return proposed.size() <= kMaximumLength && onlyDigits(proposed);
+}
