@@ -140,7 +140,13 @@ void MRPDEFoldingOptionsViewController::assignControlsForFoldKind(const FoldKind
         _finishingPDEController->createControlUsingClassFeatureKeyFeatureKeyIdentifierControlOutlet(
             PDEControllerClass<MRPDEStepperController>(), kind.divideSetKey, kind.divideSetIdentifier, u._foldingDivideSetStepper));
     const PDEAttributePtr maxSet = dataModel ? dataModel->attributeWithKey(kind.maxSetKey) : nullptr;
-    const int maximum = maxSet ? PDEIntValue(maxSet->attributeValue()) : 0;
+    int maximum = maxSet ? PDEIntValue(maxSet->attributeValue()) : 0;
+    if (maximum < 1) {
+        // A printer that states no usable limit folds one sheet at a time.
+        _PDELog(this, QStringLiteral("PDEFoldingOptionsViewController (control): %@ is not a positive number [%@], 1 is used"),
+                kind.maxSetKey, maxSet ? maxSet->attributeValue() : QString());
+        maximum = 1;
+    }
     if (m_foldingDivideSetStepperController) {
         m_foldingDivideSetStepperController->setMaxValue(maximum);
         m_foldingDivideSetStepperController->setMinValue(1);

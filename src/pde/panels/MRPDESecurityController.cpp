@@ -42,6 +42,8 @@ void MRPDESecurityController::configure()
         return;
     panel->assignContolFromFeatureArrayControls(PDEControllerClass<MRPDE_MACPopUpButtonController>(),
                                                 {{"KEY_SecuTrue", {"VELSecureReleaseOption2"}}}, {secureTruePopUpButton.data()});
+    // A label without its pop-up says nothing.
+    secureTrueLabel->setVisible(!secureTruePopUpButton->isHidden());
     const PDEFeaturePtr release = model->featureWithKey(QStringLiteral("VELSecureReleaseOption2"));
     if (!release) {
         secureTrueUserIDLabel->setVisible(false);
