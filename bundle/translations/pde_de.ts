@@ -989,6 +989,104 @@
     <message>
         <source>Enter the account to charge for this job, then click OK to print.</source>
         <translation>Geben Sie das Konto ein, dem dieser Auftrag berechnet wird, und klicken Sie auf „OK“, um zu drucken.</translation>
+        <source>KEY_SortOptions</source>
+        <translation>Sortierung:</translation>
+    </message>
+    <message>
+        <source>KEY_StapleLocation</source>
+        <translation>Heften:</translation>
+    </message>
+    <message>
+        <source>KEY_StaplePosition</source>
+        <translation>Heftposition:</translation>
+    </message>
+    <message>
+        <source>KEY_Punch</source>
+        <translation>Lochen:</translation>
+    </message>
+    <message>
+        <source>KEY_PunchPosition</source>
+        <translation>Lochposition:</translation>
+    </message>
+    <message>
+        <source>KEY_OutputMode</source>
+        <translation>Ausgabemodus:</translation>
+    </message>
+    <message>
+        <source>KEY_OutputBin</source>
+        <translation>Ausgabefach:</translation>
+    </message>
+    <message>
+        <source>KEY_FoldingOptions</source>
+        <translation>Falzen:</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingPattern</source>
+        <translation>Falzmuster:</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingDivideSet</source>
+        <translation>Blatt pro Satz:</translation>
+    </message>
+    <message>
+        <source>(1 - %d)</source>
+        <translation>(1 - %d)</translation>
+    </message>
+    <message>
+        <source>Hard Copy Security</source>
+        <translation>Ausdrucksicherheit</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrue</source>
+        <translation>Sichere Freigabe:</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrueUserID</source>
+        <translation>Benutzer-ID:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySecurity</source>
+        <translation>Ausdrucksicherheit:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyCurrSecureWatermark</source>
+        <translation>Wasserzeichentext:</translation>
+    </message>
+    <message>
+        <source>KEY_HCSCustomWatermark</source>
+        <translation>Eigener Text:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySize</source>
+        <translation>Größe:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDirection</source>
+        <translation>Richtung:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyPattern</source>
+        <translation>Hintergrundmuster:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyColor</source>
+        <translation>Farbe:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDarkness</source>
+        <translation>Dichte:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyEnterPassword</source>
+        <translation>Kennwort:</translation>
+    </message>
+    <message>
+        <source>KEY_HCSConfirmPassword</source>
+        <translation>Kennwort bestätigen:</translation>
+    </message>
+    <message>
+        <source>You must enter a 1-9 alphanumeric password and re-enter it for confirmation in order to use Password Job feature.</source>
+        <translation>Geben Sie ein alphanumerisches Kennwort mit 1 bis 9 Zeichen ein und wiederholen Sie es zur Bestätigung, um den Kennwortauftrag zu verwenden.</translation>
     </message>
     <message>
         <source>OK</source>

@@ -989,6 +989,104 @@
     <message>
         <source>Enter the account to charge for this job, then click OK to print.</source>
         <translation>Enter the account to charge for this job, then click OK to print.</translation>
+        <source>KEY_SortOptions</source>
+        <translation>Sorting:</translation>
+    </message>
+    <message>
+        <source>KEY_StapleLocation</source>
+        <translation>Staple:</translation>
+    </message>
+    <message>
+        <source>KEY_StaplePosition</source>
+        <translation>Staple Position:</translation>
+    </message>
+    <message>
+        <source>KEY_Punch</source>
+        <translation>Hole Punch:</translation>
+    </message>
+    <message>
+        <source>KEY_PunchPosition</source>
+        <translation>Punch Position:</translation>
+    </message>
+    <message>
+        <source>KEY_OutputMode</source>
+        <translation>Output Mode:</translation>
+    </message>
+    <message>
+        <source>KEY_OutputBin</source>
+        <translation>Output Bin:</translation>
+    </message>
+    <message>
+        <source>KEY_FoldingOptions</source>
+        <translation>Folding:</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingPattern</source>
+        <translation>Fold Pattern:</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingDivideSet</source>
+        <translation>Sheets per Set:</translation>
+    </message>
+    <message>
+        <source>(1 - %d)</source>
+        <translation>(1 - %d)</translation>
+    </message>
+    <message>
+        <source>Hard Copy Security</source>
+        <translation>Hard Copy Security</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrue</source>
+        <translation>Secure Release:</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrueUserID</source>
+        <translation>User ID:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySecurity</source>
+        <translation>Hard Copy Security:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyCurrSecureWatermark</source>
+        <translation>Watermark Text:</translation>
+    </message>
+    <message>
+        <source>KEY_HCSCustomWatermark</source>
+        <translation>Custom Text:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySize</source>
+        <translation>Size:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDirection</source>
+        <translation>Direction:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyPattern</source>
+        <translation>Background Pattern:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyColor</source>
+        <translation>Color:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDarkness</source>
+        <translation>Density:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyEnterPassword</source>
+        <translation>Password:</translation>
+    </message>
+    <message>
+        <source>KEY_HCSConfirmPassword</source>
+        <translation>Confirm Password:</translation>
+    </message>
+    <message>
+        <source>You must enter a 1-9 alphanumeric password and re-enter it for confirmation in order to use Password Job feature.</source>
+        <translation>You must enter a 1-9 alphanumeric password and re-enter it for confirmation in order to use Password Job feature.</translation>
     </message>
     <message>
         <source>OK</source>

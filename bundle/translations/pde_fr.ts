@@ -989,6 +989,104 @@
     <message>
         <source>Enter the account to charge for this job, then click OK to print.</source>
         <translation>Saisissez le compte à débiter pour ce travail, puis cliquez sur OK pour imprimer.</translation>
+        <source>KEY_SortOptions</source>
+        <translation>Tri :</translation>
+    </message>
+    <message>
+        <source>KEY_StapleLocation</source>
+        <translation>Agrafage :</translation>
+    </message>
+    <message>
+        <source>KEY_StaplePosition</source>
+        <translation>Position d'agrafage :</translation>
+    </message>
+    <message>
+        <source>KEY_Punch</source>
+        <translation>Perforation :</translation>
+    </message>
+    <message>
+        <source>KEY_PunchPosition</source>
+        <translation>Position de perforation :</translation>
+    </message>
+    <message>
+        <source>KEY_OutputMode</source>
+        <translation>Mode de sortie :</translation>
+    </message>
+    <message>
+        <source>KEY_OutputBin</source>
+        <translation>Bac de sortie :</translation>
+    </message>
+    <message>
+        <source>KEY_FoldingOptions</source>
+        <translation>Pliage :</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingPattern</source>
+        <translation>Motif de pliage :</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingDivideSet</source>
+        <translation>Feuilles par jeu :</translation>
+    </message>
+    <message>
+        <source>(1 - %d)</source>
+        <translation>(1 - %d)</translation>
+    </message>
+    <message>
+        <source>Hard Copy Security</source>
+        <translation>Sécurité des impressions</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrue</source>
+        <translation>Libération sécurisée :</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrueUserID</source>
+        <translation>ID utilisateur :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySecurity</source>
+        <translation>Sécurité des impressions :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyCurrSecureWatermark</source>
+        <translation>Texte du filigrane :</translation>
+    </message>
+    <message>
+        <source>KEY_HCSCustomWatermark</source>
+        <translation>Texte personnalisé :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySize</source>
+        <translation>Taille :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDirection</source>
+        <translation>Orientation :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyPattern</source>
+        <translation>Motif de fond :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyColor</source>
+        <translation>Couleur :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDarkness</source>
+        <translation>Densité :</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyEnterPassword</source>
+        <translation>Mot de passe :</translation>
+    </message>
+    <message>
+        <source>KEY_HCSConfirmPassword</source>
+        <translation>Confirmer le mot de passe :</translation>
+    </message>
+    <message>
+        <source>You must enter a 1-9 alphanumeric password and re-enter it for confirmation in order to use Password Job feature.</source>
+        <translation>Saisissez un mot de passe alphanumérique de 1 à 9 caractères et confirmez-le pour utiliser le travail protégé par mot de passe.</translation>
     </message>
     <message>
         <source>OK</source>

@@ -989,6 +989,104 @@
     <message>
         <source>Enter the account to charge for this job, then click OK to print.</source>
         <translation>このジョブを課金するアカウントを入力し、[OK] をクリックして印刷してください。</translation>
+        <source>KEY_SortOptions</source>
+        <translation>ソート:</translation>
+    </message>
+    <message>
+        <source>KEY_StapleLocation</source>
+        <translation>ステープル:</translation>
+    </message>
+    <message>
+        <source>KEY_StaplePosition</source>
+        <translation>ステープル位置:</translation>
+    </message>
+    <message>
+        <source>KEY_Punch</source>
+        <translation>パンチ穴:</translation>
+    </message>
+    <message>
+        <source>KEY_PunchPosition</source>
+        <translation>パンチ位置:</translation>
+    </message>
+    <message>
+        <source>KEY_OutputMode</source>
+        <translation>出力モード:</translation>
+    </message>
+    <message>
+        <source>KEY_OutputBin</source>
+        <translation>排紙トレイ:</translation>
+    </message>
+    <message>
+        <source>KEY_FoldingOptions</source>
+        <translation>折り:</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingPattern</source>
+        <translation>折りパターン:</translation>
+    </message>
+    <message>
+        <source>KEY_CFoldingDivideSet</source>
+        <translation>セットあたりの枚数:</translation>
+    </message>
+    <message>
+        <source>(1 - %d)</source>
+        <translation>(1 - %d)</translation>
+    </message>
+    <message>
+        <source>Hard Copy Security</source>
+        <translation>ハードコピーセキュリティ</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrue</source>
+        <translation>セキュアリリース:</translation>
+    </message>
+    <message>
+        <source>KEY_SecuTrueUserID</source>
+        <translation>ユーザーID:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySecurity</source>
+        <translation>ハードコピーセキュリティ:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyCurrSecureWatermark</source>
+        <translation>透かし文字:</translation>
+    </message>
+    <message>
+        <source>KEY_HCSCustomWatermark</source>
+        <translation>カスタム文字:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopySize</source>
+        <translation>サイズ:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDirection</source>
+        <translation>方向:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyPattern</source>
+        <translation>背景パターン:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyColor</source>
+        <translation>色:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyDarkness</source>
+        <translation>濃度:</translation>
+    </message>
+    <message>
+        <source>KEY_HardCopyEnterPassword</source>
+        <translation>パスワード:</translation>
+    </message>
+    <message>
+        <source>KEY_HCSConfirmPassword</source>
+        <translation>パスワードの確認:</translation>
+    </message>
+    <message>
+        <source>You must enter a 1-9 alphanumeric password and re-enter it for confirmation in order to use Password Job feature.</source>
+        <translation>パスワード印刷を使用するには、1～9文字の英数字のパスワードを入力し、確認のためにもう一度入力してください。</translation>
     </message>
     <message>
         <source>OK</source>

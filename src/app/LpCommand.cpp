@@ -62,7 +62,7 @@ QString LpCommand::shellQuote(const QString& word)
 bool LpCommand::hidesSecrets() const
 {
     for (const auto& option : m_options)
-        if (PDESecrets::isSecretKey(option.first))
+        if (PDESecrets::isSecretKey(option.first) && !option.second.isEmpty())
             return true;
     return false;
 }
@@ -72,7 +72,7 @@ QStringList LpCommand::arguments() const
     QStringList args{QStringLiteral("-d"), m_queue};
     for (const auto& [key, value] : m_options) {
         args << QStringLiteral("-o")
-             << optionArgument(key, PDESecrets::isSecretKey(key) ? hiddenValue() : value);
+             << optionArgument(key, PDESecrets::isSecretKey(key) && !value.isEmpty() ? hiddenValue() : value);  // an empty one hides nothing
     }
     // A document whose name starts with '-' would read as an option.
     bool needsEnd = false;

@@ -1,6 +1,6 @@
 #include "MRPDESecurityEH.h"
 
-#include "MRPDEMainBaseController.h"
+#include "MRPDESecurityPanelController.h"
 
 MRPDE_MACPanelEH::Description MRPDESecurityEH::description()
 {
@@ -14,8 +14,11 @@ MRPDE_MACPanelEH::Description MRPDESecurityEH::description()
              "SWMDARKNESS", "VELSecureReleaseOption2", "PSSUSERID"}};
 }
 
-std::shared_ptr<MRPDESecurityEH> MRPDESecurityEH::create(std::shared_ptr<PDEBundle>, std::shared_ptr<MRPDE_MACChangeHandlerModel>)
+std::shared_ptr<MRPDESecurityEH> MRPDESecurityEH::create(std::shared_ptr<PDEBundle> bundle,
+                                                         std::shared_ptr<MRPDE_MACChangeHandlerModel> model)
 {
-    // The panel's view controller is not part of this build yet.
-    return nullptr;
+    auto controller = std::make_unique<MRPDESecurityPanelController>(model.get());
+    if (!controller->mainView())
+        return nullptr;
+    return std::make_shared<MRPDESecurityEH>(std::move(bundle), std::move(model), std::move(controller), description());
 }

@@ -1,6 +1,6 @@
 #include "MRPDE_MACFinishingEH.h"
 
-#include "MRPDEMainBaseController.h"
+#include "MRPDE_MACFinishingPDEController.h"
 
 MRPDE_MACPanelEH::Description MRPDE_MACFinishingEH::description()
 {
@@ -13,9 +13,11 @@ MRPDE_MACPanelEH::Description MRPDE_MACFinishingEH::description()
              "FoldingOptions", "CFoldingPattern", "VFoldingPattern"}};
 }
 
-std::shared_ptr<MRPDE_MACFinishingEH> MRPDE_MACFinishingEH::create(std::shared_ptr<PDEBundle>,
-                                                                   std::shared_ptr<MRPDE_MACChangeHandlerModel>)
+std::shared_ptr<MRPDE_MACFinishingEH> MRPDE_MACFinishingEH::create(std::shared_ptr<PDEBundle> bundle,
+                                                                   std::shared_ptr<MRPDE_MACChangeHandlerModel> model)
 {
-    // The panel's view controller is not part of this build yet.
-    return nullptr;
+    auto controller = std::make_unique<MRPDE_MACFinishingPDEController>(model.get());
+    if (!controller->mainView())
+        return nullptr;
+    return std::make_shared<MRPDE_MACFinishingEH>(std::move(bundle), std::move(model), std::move(controller), description());
 }
