@@ -373,22 +373,6 @@
         <translation>Drucken</translation>
     </message>
     <message>
-        <source>Print&amp;er:</source>
-        <translation>Dr&amp;ucker:</translation>
-    </message>
-    <message>
-        <source>Prese&amp;ts:</source>
-        <translation>V&amp;oreinstellungen:</translation>
-    </message>
-    <message>
-        <source>&amp;Save As…</source>
-        <translation>&amp;Sichern unter…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Entfernen</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>Dokumente:</translation>
     </message>
@@ -399,14 +383,6 @@
     <message>
         <source>Job</source>
         <translation>Auftrag</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -427,6 +403,112 @@
     <message>
         <source>The printer cannot be used: %1</source>
         <translation>Der Drucker kann nicht verwendet werden: %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Zu druckende Dokumente</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>&amp;lp-Befehl zeigen…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>Dieser Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: Stattdessen wird der Befehl gezeigt, der mit diesen Einstellungen druckt.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Fügen Sie zuerst die zu druckenden Dokumente hinzu.</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 auf %2 gesetzt</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>Um einen Konflikt zu lösen: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>die Einstellungen von %1 sind unvollständig</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>Der Auftrag wurde nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>es gibt kein Dokument zum Drucken</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: Der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>der Drucker ist keine CUPS-Warteschlange, und es wurde keine PPD-Datei angegeben</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>es wurde kein Drucker geöffnet</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>es kann keine Spool-Datei angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() wurde nicht aufgerufen</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>der Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: es wurde nichts gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPresetBar</name>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Dr&amp;ucker:</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>V&amp;oreinstellungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Sichern unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>%1 (sample PPD file)</source>
@@ -504,29 +586,16 @@
         <source>Preset &quot;%1&quot; deleted.</source>
         <translation>Voreinstellung „%1“ entfernt.</translation>
     </message>
+</context>
+<context>
+    <name>PanelStack</name>
     <message>
-        <source>None</source>
-        <translation>Keine</translation>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
     </message>
     <message>
-        <source>Print %1</source>
-        <translation>%1 drucken</translation>
-    </message>
-    <message>
-        <source>Documents to Print</source>
-        <translation>Zu druckende Dokumente</translation>
-    </message>
-    <message>
-        <source>Show &amp;lp Command…</source>
-        <translation>&amp;lp-Befehl zeigen…</translation>
-    </message>
-    <message>
-        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
-        <translation>Dieser Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: Stattdessen wird der Befehl gezeigt, der mit diesen Einstellungen druckt.</translation>
-    </message>
-    <message>
-        <source>Add the documents to print first.</source>
-        <translation>Fügen Sie zuerst die zu druckenden Dokumente hinzu.</translation>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -549,67 +618,8 @@
         <translation>(verborgen)</translation>
     </message>
     <message>
-        <source>%1 set to %2</source>
-        <translation>%1 auf %2 gesetzt</translation>
-    </message>
-    <message>
-        <source>To resolve a conflict, %1.</source>
-        <translation>Um einen Konflikt zu lösen: %1.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>the settings of %1 are not complete</source>
-        <translation>die Einstellungen von %1 sind unvollständig</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>Nicht gedruckt: %1</translation>
-    </message>
-    <message>
-        <source>The job was not printed: %1</source>
-        <translation>Der Auftrag wurde nicht gedruckt: %1</translation>
-    </message>
-    <message>
-        <source>there is no document to print</source>
-        <translation>es gibt kein Dokument zum Drucken</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1: Der Ordner kann nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 kann nicht geschrieben werden</translation>
-    </message>
-</context>
-<context>
-    <name>PrintPanelsIntegration</name>
-    <message>
-        <source>the printer is not a CUPS queue and no PPD file was given</source>
-        <translation>der Drucker ist keine CUPS-Warteschlange, und es wurde keine PPD-Datei angegeben</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>no printer was opened</source>
-        <translation>es wurde kein Drucker geöffnet</translation>
-    </message>
-    <message>
-        <source>no spool file can be made: %1</source>
-        <translation>es kann keine Spool-Datei angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>applyToPrinter() was not called</source>
-        <translation>applyToPrinter() wurde nicht aufgerufen</translation>
-    </message>
-    <message>
-        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
-        <translation>der Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: es wurde nichts gesendet</translation>
+        <source>Job</source>
+        <translation>Auftrag</translation>
     </message>
 </context>
 </TS>

@@ -373,22 +373,6 @@
         <translation>Print</translation>
     </message>
     <message>
-        <source>Print&amp;er:</source>
-        <translation>Print&amp;er:</translation>
-    </message>
-    <message>
-        <source>Prese&amp;ts:</source>
-        <translation>Prese&amp;ts:</translation>
-    </message>
-    <message>
-        <source>&amp;Save As…</source>
-        <translation>&amp;Save As…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Delete</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>Documents:</translation>
     </message>
@@ -399,14 +383,6 @@
     <message>
         <source>Job</source>
         <translation>Job</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Setting</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Value</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -427,6 +403,112 @@
     <message>
         <source>The printer cannot be used: %1</source>
         <translation>The printer cannot be used: %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Print %1</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Documents to Print</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>Show &amp;lp Command…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Add the documents to print first.</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 set to %2</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>To resolve a conflict, %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>the settings of %1 are not complete</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Not printed: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>The job was not printed: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>there is no document to print</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: the folder cannot be made</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 cannot be written</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>the printer is not a CUPS queue and no PPD file was given</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>no printer was opened</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>no spool file can be made: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() was not called</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>the printer is a PPD file without a CUPS queue: nothing was sent</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPresetBar</name>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Print&amp;er:</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>Prese&amp;ts:</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Save As…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
     </message>
     <message>
         <source>%1 (sample PPD file)</source>
@@ -504,29 +586,16 @@
         <source>Preset &quot;%1&quot; deleted.</source>
         <translation>Preset &quot;%1&quot; deleted.</translation>
     </message>
+</context>
+<context>
+    <name>PanelStack</name>
     <message>
-        <source>None</source>
-        <translation>None</translation>
+        <source>Setting</source>
+        <translation>Setting</translation>
     </message>
     <message>
-        <source>Print %1</source>
-        <translation>Print %1</translation>
-    </message>
-    <message>
-        <source>Documents to Print</source>
-        <translation>Documents to Print</translation>
-    </message>
-    <message>
-        <source>Show &amp;lp Command…</source>
-        <translation>Show &amp;lp Command…</translation>
-    </message>
-    <message>
-        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
-        <translation>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</translation>
-    </message>
-    <message>
-        <source>Add the documents to print first.</source>
-        <translation>Add the documents to print first.</translation>
+        <source>Value</source>
+        <translation>Value</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -549,67 +618,8 @@
         <translation>(hidden)</translation>
     </message>
     <message>
-        <source>%1 set to %2</source>
-        <translation>%1 set to %2</translation>
-    </message>
-    <message>
-        <source>To resolve a conflict, %1.</source>
-        <translation>To resolve a conflict, %1.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>the settings of %1 are not complete</source>
-        <translation>the settings of %1 are not complete</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>Not printed: %1</translation>
-    </message>
-    <message>
-        <source>The job was not printed: %1</source>
-        <translation>The job was not printed: %1</translation>
-    </message>
-    <message>
-        <source>there is no document to print</source>
-        <translation>there is no document to print</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1: the folder cannot be made</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 cannot be written</translation>
-    </message>
-</context>
-<context>
-    <name>PrintPanelsIntegration</name>
-    <message>
-        <source>the printer is not a CUPS queue and no PPD file was given</source>
-        <translation>the printer is not a CUPS queue and no PPD file was given</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>no printer was opened</source>
-        <translation>no printer was opened</translation>
-    </message>
-    <message>
-        <source>no spool file can be made: %1</source>
-        <translation>no spool file can be made: %1</translation>
-    </message>
-    <message>
-        <source>applyToPrinter() was not called</source>
-        <translation>applyToPrinter() was not called</translation>
-    </message>
-    <message>
-        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
-        <translation>the printer is a PPD file without a CUPS queue: nothing was sent</translation>
+        <source>Job</source>
+        <translation>Job</translation>
     </message>
 </context>
 </TS>

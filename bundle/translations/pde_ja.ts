@@ -373,22 +373,6 @@
         <translation>プリント</translation>
     </message>
     <message>
-        <source>Print&amp;er:</source>
-        <translation>プリンタ(&amp;E):</translation>
-    </message>
-    <message>
-        <source>Prese&amp;ts:</source>
-        <translation>プリセット(&amp;T):</translation>
-    </message>
-    <message>
-        <source>&amp;Save As…</source>
-        <translation>別名で保存(&amp;S)…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>削除(&amp;D)</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>書類:</translation>
     </message>
@@ -399,14 +383,6 @@
     <message>
         <source>Job</source>
         <translation>ジョブ</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>値</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -427,6 +403,112 @@
     <message>
         <source>The printer cannot be used: %1</source>
         <translation>このプリンタは使用できません: %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 をプリント</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>プリントする書類</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>lp コマンドを表示(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>このプリンタは CUPS キューのない PPD ファイルです。代わりに、これらの設定でプリントするコマンドを表示します。</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>先にプリントする書類を追加してください。</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 を %2 に変更</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>競合を解決するため、%1しました。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>%1 の設定が完了していません</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>プリントしませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>ジョブはプリントされませんでした: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>プリントする書類がありません</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: フォルダを作成できません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>プリンタは CUPS キューではなく、PPD ファイルも指定されていません</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>プリンタが開かれていません</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>スプールファイルを作成できません: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() が呼び出されていません</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>プリンタは CUPS キューのない PPD ファイルです。何も送信されませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPresetBar</name>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>プリンタ(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>プリセット(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>別名で保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>%1 (sample PPD file)</source>
@@ -504,29 +586,16 @@
         <source>Preset &quot;%1&quot; deleted.</source>
         <translation>プリセット「%1」を削除しました。</translation>
     </message>
+</context>
+<context>
+    <name>PanelStack</name>
     <message>
-        <source>None</source>
-        <translation>なし</translation>
+        <source>Setting</source>
+        <translation>設定</translation>
     </message>
     <message>
-        <source>Print %1</source>
-        <translation>%1 をプリント</translation>
-    </message>
-    <message>
-        <source>Documents to Print</source>
-        <translation>プリントする書類</translation>
-    </message>
-    <message>
-        <source>Show &amp;lp Command…</source>
-        <translation>lp コマンドを表示(&amp;L)…</translation>
-    </message>
-    <message>
-        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
-        <translation>このプリンタは CUPS キューのない PPD ファイルです。代わりに、これらの設定でプリントするコマンドを表示します。</translation>
-    </message>
-    <message>
-        <source>Add the documents to print first.</source>
-        <translation>先にプリントする書類を追加してください。</translation>
+        <source>Value</source>
+        <translation>値</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -549,67 +618,8 @@
         <translation>(非表示)</translation>
     </message>
     <message>
-        <source>%1 set to %2</source>
-        <translation>%1 を %2 に変更</translation>
-    </message>
-    <message>
-        <source>To resolve a conflict, %1.</source>
-        <translation>競合を解決するため、%1しました。</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>the settings of %1 are not complete</source>
-        <translation>%1 の設定が完了していません</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>プリントしませんでした: %1</translation>
-    </message>
-    <message>
-        <source>The job was not printed: %1</source>
-        <translation>ジョブはプリントされませんでした: %1</translation>
-    </message>
-    <message>
-        <source>there is no document to print</source>
-        <translation>プリントする書類がありません</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1: フォルダを作成できません</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 に書き込めません</translation>
-    </message>
-</context>
-<context>
-    <name>PrintPanelsIntegration</name>
-    <message>
-        <source>the printer is not a CUPS queue and no PPD file was given</source>
-        <translation>プリンタは CUPS キューではなく、PPD ファイルも指定されていません</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>no printer was opened</source>
-        <translation>プリンタが開かれていません</translation>
-    </message>
-    <message>
-        <source>no spool file can be made: %1</source>
-        <translation>スプールファイルを作成できません: %1</translation>
-    </message>
-    <message>
-        <source>applyToPrinter() was not called</source>
-        <translation>applyToPrinter() が呼び出されていません</translation>
-    </message>
-    <message>
-        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
-        <translation>プリンタは CUPS キューのない PPD ファイルです。何も送信されませんでした</translation>
+        <source>Job</source>
+        <translation>ジョブ</translation>
     </message>
 </context>
 </TS>
