@@ -313,7 +313,7 @@ private slots:
         if (!m_cups.isRunning())
             QSKIP(qPrintable(QStringLiteral("presets need a private cupsd: ") + m_cupsSkipped));
 
-        printers->setCurrentIndex(printers->findText(QStringLiteral("panels")));
+        printers->setCurrentIndex(printers->findText(QStringLiteral("panels"), Qt::MatchStartsWith));
         emit printers->activated(printers->currentIndex());
         auto* presets = widget<QComboBox>("presetCombo");
         QCOMPARE(presets->currentText(), QStringLiteral("Default settings"));
@@ -335,6 +335,34 @@ private slots:
         QTest::mouseClick(widget<QPushButton>("deletePresetButton"), Qt::LeftButton);
         QTRY_VERIFY(presets->findText(QStringLiteral("Draft")) < 0);
         QVERIFY(PresetStore(QStringLiteral("panels")).names().isEmpty());
+    }
+
+    void printerChooser_data()
+    {
+        QTest::addColumn<QStringList>("commands");  // run against the private cupsd first
+        QTest::addColumn<QString>("text");
+        QTest::newRow("idle") << QStringList{"cupsenable", "cupsaccept"} << QStringLiteral("panels \u2014 idle, Room 2");
+        QTest::newRow("stopped") << QStringList{"cupsdisable"} << QStringLiteral("panels \u2014 stopped, Room 2");
+        QTest::newRow("not accepting") << QStringList{"cupsenable", "cupsreject"}
+                                       << QStringLiteral("panels \u2014 idle, not accepting jobs, Room 2");
+    }
+
+    // Each queue shows its state and location, its make and model in the tooltip.
+    void printerChooser()
+    {
+        QFETCH(QStringList, commands);
+        QFETCH(QString, text);
+        if (!m_cups.isRunning())
+            QSKIP(qPrintable(QStringLiteral("needs a private cupsd: ") + m_cupsSkipped));
+        QVERIFY(m_cups.runClient("lpadmin", {"-p", "panels", "-L", "Room 2"}));
+        for (const QString& c : commands)
+            QVERIFY(m_cups.runClient(c, {"panels"}));
+        openWindow();
+        auto* printers = widget<QComboBox>("printerCombo");
+        const int index = printers->findText(text);
+        QVERIFY2(index >= 0, qPrintable(printers->itemText(0)));
+        QVERIFY(printers->itemData(index, Qt::ToolTipRole).toString().contains(QStringLiteral("Make and model: Velmora C5500 MFP")));
+        QVERIFY(m_cups.runClient("cupsenable", {"panels"}) && m_cups.runClient("cupsaccept", {"panels"}));
     }
 };
 

@@ -586,6 +586,46 @@
         <source>Preset &quot;%1&quot; deleted.</source>
         <translation>Voreinstellung „%1“ entfernt.</translation>
     </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2, %3</translation>
+    </message>
+    <message>
+        <source>Make and model: %1</source>
+        <translation>Hersteller und Modell: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Standort: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <translation>Status: %1</translation>
+    </message>
+    <message>
+        <source>Your default printer</source>
+        <translation>Ihr Standarddrucker</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1, nimmt keine Aufträge an</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

@@ -586,6 +586,46 @@
         <source>Preset &quot;%1&quot; deleted.</source>
         <translation>Preset &quot;%1&quot; deleted.</translation>
     </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2, %3</translation>
+    </message>
+    <message>
+        <source>Make and model: %1</source>
+        <translation>Make and model: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Location: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <translation>State: %1</translation>
+    </message>
+    <message>
+        <source>Your default printer</source>
+        <translation>Your default printer</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>stopped</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>printing</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>idle</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1, not accepting jobs</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

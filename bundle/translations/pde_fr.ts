@@ -586,6 +586,46 @@
         <source>Preset &quot;%1&quot; deleted.</source>
         <translation>Préréglage « %1 » supprimé.</translation>
     </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2, %3</translation>
+    </message>
+    <message>
+        <source>Make and model: %1</source>
+        <translation>Marque et modèle : %1</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Emplacement : %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <translation>État : %1</translation>
+    </message>
+    <message>
+        <source>Your default printer</source>
+        <translation>Votre imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêtée</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>en impression</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inactive</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1, n’accepte pas de travaux</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

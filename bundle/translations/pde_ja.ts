@@ -586,6 +586,46 @@
         <source>Preset &quot;%1&quot; deleted.</source>
         <translation>プリセット「%1」を削除しました。</translation>
     </message>
+    <message>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
+    </message>
+    <message>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2、%3</translation>
+    </message>
+    <message>
+        <source>Make and model: %1</source>
+        <translation>メーカーとモデル: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>場所: %1</translation>
+    </message>
+    <message>
+        <source>State: %1</source>
+        <translation>状態: %1</translation>
+    </message>
+    <message>
+        <source>Your default printer</source>
+        <translation>既定のプリンター</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1、ジョブを受け付けていません</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

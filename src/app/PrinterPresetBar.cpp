@@ -18,14 +18,21 @@ namespace {
 constexpr int KindRole = Qt::UserRole;
 constexpr int ValueRole = Qt::UserRole + 1;
 
+// The *NickName of a PPD file, read from its first lines (it comes early;
+// the whole file need not be parsed for a name).
 QString nickNameOf(const QString& ppdPath)
 {
-    ppd_file_t* ppd = ppdOpenFile(QFile::encodeName(ppdPath).constData());
-    if (!ppd)
+    QFile file(ppdPath);
+    if (!file.open(QIODevice::ReadOnly))
         return QString();
-    const QString name = QString::fromUtf8(ppd->nickname ? ppd->nickname : ppd->modelname ? ppd->modelname : "");
-    ppdClose(ppd);
-    return name;
+    for (int line = 0; line < 200 && !file.atEnd(); ++line) {
+        const QByteArray text = file.readLine(1024).trimmed();
+        if (!text.startsWith("*NickName:"))
+            continue;
+        const qsizetype open = text.indexOf('"'), close = text.lastIndexOf('"');
+        return close > open ? QString::fromUtf8(text.mid(open + 1, close - open - 1)).trimmed() : QString();
+    }
+    return QString();
 }
 }
 
@@ -77,16 +84,33 @@ PanelSession::Options PrinterPresetBar::optionsFor() const
     return options;
 }
 
+QString PrinterPresetBar::stateText(const CupsDestinations::Queue& queue)
+{
+    QString state = queue.state == 5 ? tr("stopped") : queue.state == 4 ? tr("printing") : tr("idle");
+    return queue.accepting ? state : tr("%1, not accepting jobs").arg(state);
+}
+
 void PrinterPresetBar::fillPrinters()
 {
     const QSignalBlocker blocker(ui->printerCombo);
     QComboBox* combo = ui->printerCombo;
     combo->clear();
     for (const CupsDestinations::Queue& q : CupsDestinations::queues()) {
-        const QString text = q.description.isEmpty() || q.description == q.name
+        const QString name = q.description.isEmpty() || q.description == q.name
                                  ? q.name
                                  : QStringLiteral("%1 (%2)").arg(q.description, q.name);
-        combo->addItem(text);
+        const QString state = stateText(q);
+        combo->addItem(q.location.isEmpty() ? tr("%1 \u2014 %2").arg(name, state)
+                                            : tr("%1 \u2014 %2, %3").arg(name, state, q.location));
+        QStringList tip{name};
+        if (!q.makeAndModel.isEmpty())
+            tip << tr("Make and model: %1").arg(q.makeAndModel);
+        if (!q.location.isEmpty())
+            tip << tr("Location: %1").arg(q.location);
+        tip << tr("State: %1").arg(state);
+        if (q.isDefault)
+            tip << tr("Your default printer");
+        combo->setItemData(combo->count() - 1, tip.join(QLatin1Char('\n')), Qt::ToolTipRole);
         combo->setItemData(combo->count() - 1, QueueEntry, KindRole);
         combo->setItemData(combo->count() - 1, q.name, ValueRole);
     }
@@ -98,20 +122,21 @@ void PrinterPresetBar::fillPrinters()
     if (combo->count() > 0)
         combo->insertSeparator(combo->count());
 
+    int sampleIndex = -1;
     // The printers the bundle brings as samples, then the PPD file in use.
     if (m_session) {
         const QString printers = QDir(m_session->bundle().bundlePath()).filePath(QStringLiteral("printers"));
         for (const QString& file : QDir(printers).entryList({QStringLiteral("*.ppd")}, QDir::Files, QDir::Name)) {
-            const QString path = PanelSession::samplePrinterPPD(m_sampleDir, QFileInfo(file).completeBaseName());
-            if (path.isEmpty())
-                continue;
-            const QString nick = nickNameOf(path);
+            const QString nick = nickNameOf(QDir(printers).filePath(file));
             combo->addItem(tr("%1 (sample PPD file)").arg(nick.isEmpty() ? file : nick));
-            combo->setItemData(combo->count() - 1, PPDEntry, KindRole);
-            combo->setItemData(combo->count() - 1, path, ValueRole);
+            combo->setItemData(combo->count() - 1, SampleEntry, KindRole);
+            combo->setItemData(combo->count() - 1, QFileInfo(file).completeBaseName(), ValueRole);
+            // The sample in use, wherever it was copied to.
+            if (!isQueue() && QFileInfo(m_opened.ppdPath).fileName() == file && nickNameOf(m_opened.ppdPath) == nick)
+                sampleIndex = combo->count() - 1;
         }
     }
-    if (!isQueue() && !m_opened.ppdPath.isEmpty() && combo->findData(m_opened.ppdPath, ValueRole) < 0) {
+    if (!isQueue() && sampleIndex < 0 && !m_opened.ppdPath.isEmpty() && combo->findData(m_opened.ppdPath, ValueRole) < 0) {
         const QString nick = nickNameOf(m_opened.ppdPath);
         const QString file = QFileInfo(m_opened.ppdPath).fileName();
         combo->addItem(nick.isEmpty() ? tr("%1 (PPD file)").arg(file) : tr("%1 (PPD file %2)").arg(nick, file));
@@ -124,7 +149,8 @@ void PrinterPresetBar::fillPrinters()
     combo->setItemData(combo->count() - 1, BrowseEntry, KindRole);
 
     const QString current = isQueue() ? queueName() : m_opened.ppdPath;
-    combo->setCurrentIndex(qMax(0, combo->findData(current, ValueRole)));
+    m_sampleIndex = sampleIndex;
+    combo->setCurrentIndex(sampleIndex >= 0 ? sampleIndex : qMax(0, combo->findData(current, ValueRole)));
 }
 
 void PrinterPresetBar::printerChosen(int index)
@@ -141,6 +167,12 @@ void PrinterPresetBar::printerChosen(int index)
         options.ppdPath = combo->itemData(index, ValueRole).toString();
         if (!isQueue() && options.ppdPath == m_opened.ppdPath)
             return;
+        break;
+    case SampleEntry:
+        if (index == m_sampleIndex)
+            return;
+        // Copied out of the program only when chosen.
+        options.ppdPath = PanelSession::samplePrinterPPD(m_sampleDir, combo->itemData(index, ValueRole).toString());
         break;
     case BrowseEntry:
         options.ppdPath = QFileDialog::getOpenFileName(this, tr("Choose a PPD File"), QDir::homePath(),

@@ -1,4 +1,5 @@
 #pragma once
+#include "CupsDestinations.h"
 #include "PanelSession.h"
 
 #include <QTemporaryDir>
@@ -43,7 +44,10 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    enum EntryKind { QueueEntry, PPDEntry, BrowseEntry };
+    enum EntryKind { QueueEntry, PPDEntry, SampleEntry, BrowseEntry };
+
+    // "idle", "printing", "stopped", each with ", not accepting jobs" where so.
+    static QString stateText(const CupsDestinations::Queue& queue);
 
     void fillPrinters();
     void fillPresets();
@@ -63,5 +67,6 @@ private:
     PanelSession* m_session = nullptr;
     PanelSession::Options m_opened;
     QTemporaryDir m_sampleDir;  // sample printers copied out of the program
+    int m_sampleIndex = -1;     // the chooser's entry of the sample printer in use
     SettingsSource m_settings;
 };
