@@ -364,6 +364,34 @@ private slots:
         QVERIFY(printers->itemData(index, Qt::ToolTipRole).toString().contains(QStringLiteral("Make and model: Velmora C5500 MFP")));
         QVERIFY(m_cups.runClient("cupsenable", {"panels"}) && m_cups.runClient("cupsaccept", {"panels"}));
     }
+
+    void chooserShowsOpened_data()
+    {
+        QTest::addColumn<QString>("printer");  // as opened; empty: PanelSession picks
+        QTest::newRow("picked by the session") << QString();
+        QTest::newRow("queue") << "panels";
+        QTest::newRow("preset") << "panels/Fast";
+    }
+
+    // The chooser and the presets show whichever printer the session opened.
+    void chooserShowsOpened()
+    {
+        QFETCH(QString, printer);
+        if (!m_cups.isRunning() && !printer.isEmpty())
+            QSKIP(qPrintable(QStringLiteral("needs a private cupsd: ") + m_cupsSkipped));
+        QVERIFY(printer.isEmpty() || m_cups.runClient("lpoptions", {"-p", "panels/Fast", "-o", "copies=2"}));
+        m_window = std::make_unique<PrintDialogWindow>();
+        QString error;
+        QVERIFY2(m_window->openSession({{}, printer, {}, {}, {}}, &error), qPrintable(error));
+        const PMPrinter* opened = m_window->session()->host().pmPrinter();
+        const QString shown = widget<QComboBox>("printerCombo")->currentText();
+        if (opened->isQueue())
+            QVERIFY2(shown.startsWith(opened->name().section(QLatin1Char('/'), 0, 0) + QStringLiteral(" \u2014")), qPrintable(shown));
+        else
+            QCOMPARE(shown, QStringLiteral("Velmora C5500 MFP (sample PPD file)"));
+        QCOMPARE(widget<QComboBox>("presetCombo")->currentData().toString(), opened->name().section(QLatin1Char('/'), 1));
+        QVERIFY(printer.isEmpty() || m_cups.runClient("lpoptions", {"-x", "panels/Fast"}));
+    }
 };
 
 // The tests get a screen the size of a laptop's, so that the window can grow

@@ -111,17 +111,19 @@ void PrintDialogWindow::installTranslations(const PDEBundle& bundle)
 
 bool PrintDialogWindow::openSession(const PanelSession::Options& options, QString* error)
 {
-    PanelSession::Options o = options;
-    if (o.printer.isEmpty() && o.ppdPath.isEmpty())
-        o.ppdPath = PanelSession::samplePrinterPPD(m_sampleDir);
-    std::unique_ptr<PanelSession> session = PanelSession::open(o, error);
+    // Without a printer, the session picks one (the user's default queue).
+    std::unique_ptr<PanelSession> session = PanelSession::open(options, error);
     if (!session)
         return false;
     installTranslations(session->bundle());
 
     ui->panelStack->clear();
     m_session = std::move(session);
-    m_options = o;
+    // What was opened, as the chooser shows it: the queue (with its preset) or the PPD file.
+    m_options = options;
+    const PMPrinter* printer = m_session->host().pmPrinter();
+    m_options.printer = isQueue() ? printer->name() : QString();
+    m_options.ppdPath = isQueue() ? QString() : m_session->host().ppdPath();
 
     PrintDialogHost* host = &m_session->host();
     connect(host, &PrintDialogHost::panelViewResized, ui->panelStack, &PanelStack::panelViewResized);

@@ -2,7 +2,6 @@
 #include "PanelSession.h"
 
 #include <QDialog>
-#include <QTemporaryDir>
 #include <functional>
 #include <memory>
 
@@ -24,8 +23,8 @@ public:
     explicit PrintDialogWindow(QWidget* parent = nullptr);
     ~PrintDialogWindow() override;
 
-    // Opens the dialog on a queue or a PPD file (the sample printer when
-    // neither is given), replacing the current printer. False, with *error
+    // Opens the dialog on a queue or a PPD file (the printer PanelSession
+    // picks when neither is given), replacing the current printer. False, with *error
     // set and the current printer kept, when it cannot be opened.
     bool openSession(const PanelSession::Options& options, QString* error);
     PanelSession* session() const { return m_session.get(); }
@@ -88,6 +87,5 @@ private:
     std::unique_ptr<PanelSession> m_session;
     PanelSession::Options m_options;  // what the session opened
     QStringList m_documents;
-    QTemporaryDir m_sampleDir;  // the sample printer copied out of the program
     int m_submittedJob = 0;
 };
