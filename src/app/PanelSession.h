@@ -37,6 +37,10 @@ public:
     // Every panel's print checks (where it has them) and save; false with the
     // refusing panel's alert text in *refusal when one refuses.
     bool prepareToPrint(QString* refusal);
+    // What conflict resolution changed while the session opened (saved
+    // options, preset, -o), and the saved options that could not be used.
+    PrintDialogHost::OptionList resolutionChanges() const { return m_resolutionChanges; }
+    QStringList openingWarnings() const { return m_openingWarnings; }
     // {"panels":[...]} for every panel in order.
     QJsonObject describe();
     // The path of the built-in sample printer's PPD, copied out of the program.
@@ -49,4 +53,6 @@ private:
     std::unique_ptr<PrintDialogHost> m_host;
     std::unique_ptr<MRPDE_MACFirstEventHandler> m_entry;
     QList<std::shared_ptr<PDEPanel>> m_panels;
+    PrintDialogHost::OptionList m_resolutionChanges;
+    QStringList m_openingWarnings;
 };

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMetaObject>
 #include <QPointer>
+#include <QRegularExpression>
 #include <cups/cups.h>
 #include <cups/ppd.h>
 #include <algorithm>
@@ -150,6 +151,24 @@ bool PrintDialogHost::isPrinterAttribute(const QString& key)
         QStringLiteral("printer-uri-supported"),
     };
     return key.startsWith(QLatin1String("marker-")) || names.contains(key);
+}
+
+bool PrintDialogHost::checkJobValue(const QString& key, const QString& value, QString* error)
+{
+    if (key != QLatin1String("page-ranges"))
+        return true;
+    static const QRegularExpression range(QStringLiteral(R"(^([1-9]\d*)(-([1-9]\d*)?)?$)"));
+    const QStringList parts = value.split(QLatin1Char(','));
+    for (const QString& part : parts) {
+        const QRegularExpressionMatch m = range.match(part);
+        const bool ok = m.hasMatch() && (m.captured(3).isEmpty() || m.captured(3).toULongLong() >= m.captured(1).toULongLong());
+        if (!ok) {
+            if (error)
+                *error = QStringLiteral("page-ranges \"%1\": \"%2\" is not a page or a range of pages such as 1-3,5,8-").arg(value, part);
+            return false;
+        }
+    }
+    return true;
 }
 
 bool PrintDialogHost::validateOptionString(const QString& options, QString* error)

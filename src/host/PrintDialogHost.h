@@ -32,6 +32,10 @@ public:
     static bool isPrinterAttribute(const QString& key);
     // Checks an option string written as for `lp -o` ("a=1 b='x y'").
     static bool validateOptionString(const QString& options, QString* error);
+    // Checks the value of a job option the dialog and the command line both
+    // take: page-ranges ("1-3,5,8-": numbers from 1, ascending within a
+    // range). Other keys are accepted. False with *error saying why.
+    static bool checkJobValue(const QString& key, const QString& value, QString* error);
     // Applies options written as for `lp -o`: PPD options with choices are
     // marked (an unknown choice is an error), the rest go to the print settings.
     bool applyOptions(const QString& options, QString* error);
