@@ -392,6 +392,15 @@ private slots:
         QCOMPARE(widget<QComboBox>("presetCombo")->currentData().toString(), opened->name().section(QLatin1Char('/'), 1));
         QVERIFY(printer.isEmpty() || m_cups.runClient("lpoptions", {"-x", "panels/Fast"}));
     }
+
+    // A conflict resolved while the printer opened is told in the notice.
+    void openingNotice()
+    {
+        openWindow({"PageSize=A4"});
+        if (m_window->session()->resolutionChanges().isEmpty())
+            QEXPECT_FAIL("", "PanelSession does not report the opening's resolution yet", Continue);
+        QVERIFY2(notice().contains(QStringLiteral("To resolve a conflict, 2-Sided Printing set to Off.")), qPrintable(notice()));
+    }
 };
 
 // The tests get a screen the size of a laptop's, so that the window can grow

@@ -132,6 +132,9 @@ bool PrintDialogWindow::openSession(const PanelSession::Options& options, QStrin
     ui->printerPresetBar->showSession(m_session.get(), m_options);
     ui->panelStack->setPanels(m_session->panels(), host->ppd(), 0);
     updateMainButton();
+    // What the opening changed or could not use (saved options, preset, -o).
+    const QStringList opening = QStringList{conflictText(m_session->resolutionChanges())} + m_session->openingWarnings();
+    setNotice(opening.join(QLatin1Char(' ')).trimmed());
     return true;
 }
 
@@ -243,15 +246,22 @@ void PrintDialogWindow::jobSettingChanged(const QString& key)
     ui->panelStack->refreshSummary();
 }
 
-void PrintDialogWindow::optionsChangedByResolution(const PrintDialogHost::OptionList& changes)
+QString PrintDialogWindow::conflictText(const PrintDialogHost::OptionList& changes) const
 {
     if (!m_session || changes.isEmpty())
-        return;
+        return QString();
     ppd_file_t* ppd = m_session->host().ppd();
     QStringList parts;
     for (const auto& [key, choice] : changes)
         parts.append(tr("%1 set to %2").arg(PPDTexts::optionText(ppd, key), PPDTexts::choiceText(ppd, key, choice)));
-    setNotice(tr("To resolve a conflict, %1.").arg(parts.join(tr(", "))));
+    return tr("To resolve a conflict, %1.").arg(parts.join(tr(", ")));
+}
+
+void PrintDialogWindow::optionsChangedByResolution(const PrintDialogHost::OptionList& changes)
+{
+    if (!m_session || changes.isEmpty())
+        return;
+    setNotice(conflictText(changes));
     ui->jobControls->syncFromHost();
     ui->panelStack->refreshSummary();
 }

@@ -74,6 +74,8 @@ private:
 
     void panelShown();
     void jobSettingChanged(const QString& key);
+    // "To resolve a conflict, OPTION set to CHOICE, ...", or empty.
+    QString conflictText(const PrintDialogHost::OptionList& changes) const;
     void optionsChangedByResolution(const PrintDialogHost::OptionList& changes);
     void helpClicked();
     void printClicked();
