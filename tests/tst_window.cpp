@@ -401,6 +401,28 @@ private slots:
             QEXPECT_FAIL("", "PanelSession does not report the opening's resolution yet", Continue);
         QVERIFY2(notice().contains(QStringLiteral("To resolve a conflict, 2-Sided Printing set to Off.")), qPrintable(notice()));
     }
+
+    void invalidPageRange_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("descending") << "5-3";
+        QTest::newRow("page 0") << "0-2";
+        QTest::newRow("empty part") << "1,,4";
+        QTest::newRow("trailing comma") << "2,";
+    }
+
+    // An invalid page range keeps the dialog open, the field marked: nothing is printed.
+    void invalidPageRange()
+    {
+        QFETCH(QString, typed);
+        openWindow();
+        QTest::mouseClick(widget<QRadioButton>("pageRangeRadio"), Qt::LeftButton);
+        QTest::keyClicks(widget<QLineEdit>("pageRangeEdit"), typed);
+        QTest::mouseClick(widget<QPushButton>("printButton"), Qt::LeftButton);
+        QVERIFY2(notice().contains(QStringLiteral("not valid")), qPrintable(notice()));
+        QVERIFY(widget<QLineEdit>("pageRangeEdit")->property("invalidInput").toBool() && widget<QLineEdit>("pageRangeEdit")->hasFocus());
+        QVERIFY(!m_window->findChild<LpCommandDialog*>() && m_journal.filter(QStringLiteral(":save")).isEmpty());
+    }
 };
 
 // The tests get a screen the size of a laptop's, so that the window can grow

@@ -331,6 +331,10 @@
         <source>All</source>
         <translation>Alle</translation>
     </message>
+    <message>
+        <source>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</source>
+        <translation>Der Seitenbereich „%1“ ist ungültig: Geben Sie Seiten und Bereiche wie 1-3,5,8- an.</translation>
+    </message>
 </context>
 <context>
     <name>LpCommandDialog</name>

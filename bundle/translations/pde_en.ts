@@ -331,6 +331,10 @@
         <source>All</source>
         <translation>All</translation>
     </message>
+    <message>
+        <source>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</source>
+        <translation>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</translation>
+    </message>
 </context>
 <context>
     <name>LpCommandDialog</name>

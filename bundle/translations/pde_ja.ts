@@ -331,6 +331,10 @@
         <source>All</source>
         <translation>すべて</translation>
     </message>
+    <message>
+        <source>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</source>
+        <translation>ページ範囲「%1」は無効です。1-3,5,8- のようにページと範囲を指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>LpCommandDialog</name>

@@ -300,6 +300,11 @@ void PrintDialogWindow::printClicked()
 {
     if (!m_session)
         return;
+    QString invalid;
+    if (!ui->jobControls->checkInput(&invalid)) {
+        setNotice(invalid);
+        return;
+    }
     QString refusal;
     if (!m_session->prepareToPrint(&refusal)) {
         setNotice(tr("Not printed: %1").arg(refusal));
