@@ -83,10 +83,12 @@ void PanelSession::addPanel(std::shared_ptr<PDEPanel> panel)
     panel->restoreValuesAndReturnError(&ignored);
 }
 
-bool PanelSession::prepareToPrint(QString* refusal)
+bool PanelSession::prepareToPrint(QString* refusal, const std::function<void(PDEPanel*)>& asking)
 {
     for (const auto& p : std::as_const(m_panels)) {
         PDEAlerts::clearLastAlertText();
+        if (asking && p->respondsToShouldPrint())
+            asking(p.get());
         if (p->respondsToShouldPrint() && !p->shouldPrint()) {
             if (refusal) {
                 *refusal = PDEAlerts::lastAlertText();

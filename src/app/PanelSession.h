@@ -5,6 +5,7 @@
 #include <QList>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 class MRPDE_MACFirstEventHandler;
@@ -35,8 +36,9 @@ public:
     // now, told about resolution changes and asked with the others when printing.
     void addPanel(std::shared_ptr<PDEPanel> panel);
     // Every panel's print checks (where it has them) and save; false with the
-    // refusing panel's alert text in *refusal when one refuses.
-    bool prepareToPrint(QString* refusal);
+    // refusing panel's alert text in *refusal when one refuses. asking, when
+    // given, is told each panel before its checks (which may show an alert).
+    bool prepareToPrint(QString* refusal, const std::function<void(PDEPanel*)>& asking = {});
     // What conflict resolution changed while the session opened (saved
     // options, preset, -o), and the saved options that could not be used.
     PrintDialogHost::OptionList resolutionChanges() const { return m_resolutionChanges; }
