@@ -93,7 +93,7 @@ private:
     }
 
     // Clicks the button of that text in the next modal message box; keeps
-    // the box's text, message and buttons in m_box.
+    // the box's text, message and buttons in m_box, then the entry shown.
     void answerBox(const QString& button)
     {
         auto* poll = new QTimer(this);
@@ -104,7 +104,9 @@ private:
                 m_box = QStringList{box->text(), box->informativeText()};
                 for (QAbstractButton* b : box->buttons())
                     m_box << b->text().remove(QLatin1Char('&'));
-                QTest::mouseClick(box->buttons().value(m_box.indexOf(button) - 2), Qt::LeftButton);
+                const int index = int(m_box.indexOf(button)) - 2;
+                m_box << (m_window->currentPanel() ? m_window->currentPanel()->panelName() : QStringLiteral("Summary"));
+                QTest::mouseClick(box->buttons().value(index), Qt::LeftButton);
             }
         });
         poll->start(20);
@@ -257,17 +259,25 @@ private slots:
         QTest::newRow("other button") << "Later" << int(PDEAlerts::OtherButton);
     }
 
-    // A panel's alert is a message box over the window, its buttons answered.
+    // A panel alerting in its print checks is brought to the front, then its
+    // alert is a message box over the window, its buttons answered.
     void alerts()
     {
         QFETCH(QString, clicked);
         QFETCH(int, answer);
         openWindow();
+        int got = -2;
+        m_panel["C"]->printCheck = [&got] {
+            got = PDEAlerts::runAlertPanel({"The PIN is too short", "Enter four digits.", "Print Anyway", "Cancel", "Later"});
+            return got == PDEAlerts::DefaultButton;
+        };
         answerBox(clicked);
-        const PDEAlerts::Alert alert{"The PIN is too short", "Enter four digits.", "Print Anyway", "Cancel", "Later"};
-        QCOMPARE(PDEAlerts::runAlertPanel(alert), answer);
+        QTest::mouseClick(widget<QPushButton>("printButton"), Qt::LeftButton);
+        QCOMPARE(got, answer);
+        QCOMPARE(m_box.takeLast(), QStringLiteral("C"));  // shown when the box appeared
         m_box.sort();
         QCOMPARE(m_box, QStringList({"Cancel", "Enter four digits.", "Later", "Print Anyway", "The PIN is too short"}));
+        QCOMPARE(bool(m_window->findChild<LpCommandDialog*>()), answer == PDEAlerts::DefaultButton);
     }
 
     // Every panel saved, then the lp command that prints the same (a

@@ -85,7 +85,12 @@ PrintDialogWindow::PrintDialogWindow(QWidget* parent)
     connect(ui->printButton, &QPushButton::clicked, this, &PrintDialogWindow::printClicked);
 
     // The panels' alerts are message boxes over this window.
-    PDEAlerts::setHandler([this](const PDEAlerts::Alert& alert) { return showAlert(this, alert); });
+    // A panel alerting while its print checks run is brought to the front first.
+    PDEAlerts::setHandler([this](const PDEAlerts::Alert& alert) {
+        if (m_askingPanel)
+            ui->panelStack->showPanel(m_askingPanel);
+        return showAlert(this, alert);
+    });
     showDocuments();
     updateMainButton();
 }
@@ -306,7 +311,9 @@ void PrintDialogWindow::printClicked()
         return;
     }
     QString refusal;
-    if (!m_session->prepareToPrint(&refusal)) {
+    const bool ready = m_session->prepareToPrint(&refusal, [this](PDEPanel* panel) { m_askingPanel = panel; });
+    m_askingPanel = nullptr;
+    if (!ready) {
         setNotice(tr("Not printed: %1").arg(refusal));
         return;
     }

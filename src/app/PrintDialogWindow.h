@@ -90,4 +90,5 @@ private:
     PanelSession::Options m_options;  // what the session opened
     QStringList m_documents;
     int m_submittedJob = 0;
+    PDEPanel* m_askingPanel = nullptr;  // the panel whose print checks run
 };
