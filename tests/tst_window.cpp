@@ -10,6 +10,7 @@
 #include "RecordingPanel.h"
 #include "TestSupport.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -29,6 +30,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
+#include <cups/cups.h>
 
 namespace {
 // A printer with a paper size that conflicts with long-edge duplex printing.
@@ -334,8 +336,17 @@ private slots:
         QTest::keyClicks(ask->findChild<QLineEdit*>(), QStringLiteral("Draft"));
         QTest::keyClick(ask->findChild<QLineEdit*>(), Qt::Key_Return);
         QTRY_COMPARE(presets->currentText(), QStringLiteral("Draft"));
+        // "draft" is the same preset to CUPS: the dialog asks, then replaces it.
+        QTest::mouseClick(widget<QPushButton>("savePresetButton"), Qt::LeftButton);
+        QTRY_VERIFY((ask = m_window->findChild<QInputDialog*>()) && ask->isVisible());
+        ask->setTextValue(QStringLiteral("draft"));
+        answerBox(QStringLiteral("Yes"));
+        QTest::keyClick(ask->findChild<QLineEdit*>(), Qt::Key_Return);
+        QTRY_COMPARE(presets->currentText(), QStringLiteral("draft"));
+        QCOMPARE(presets->count(), 2);
+        QVERIFY(m_box.value(0).contains(QStringLiteral("\"Draft\" exists")));
         PrintDialogHost::OptionList saved;
-        QVERIFY(PresetStore(QStringLiteral("panels")).load(QStringLiteral("Draft"), &saved) && saved.contains({"copies", "4"}));
+        QVERIFY(PresetStore(QStringLiteral("panels")).load(QStringLiteral("draft"), &saved) && saved.contains({"copies", "4"}));
         presets->setFocus();
         QTest::keyClick(presets, Qt::Key_Home);
         QTRY_COMPARE(widget<QSpinBox>("copiesSpin")->value(), 1);
@@ -343,8 +354,15 @@ private slots:
         QTRY_COMPARE(widget<QSpinBox>("copiesSpin")->value(), 4);
         answerBox(QStringLiteral("Yes"));
         QTest::mouseClick(widget<QPushButton>("deletePresetButton"), Qt::LeftButton);
-        QTRY_VERIFY(presets->findText(QStringLiteral("Draft")) < 0);
+        QTRY_VERIFY(presets->findText(QStringLiteral("draft")) < 0);
         QVERIFY(PresetStore(QStringLiteral("panels")).names().isEmpty());
+        // The settings as the queue's own defaults, the queue as the default printer.
+        widget<QAction>("useAsDefaultsAction")->trigger();
+        QVERIFY(PresetStore(QStringLiteral("panels")).savedOptions(&saved) && saved.contains({"copies", "4"}));
+        widget<QAction>("makeDefaultPrinterAction")->trigger();
+        cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+        QVERIFY(dest && qstrcmp(dest->name, "panels") == 0 && !dest->instance);
+        cupsFreeDests(1, dest);
     }
 
     void printerChooser_data()

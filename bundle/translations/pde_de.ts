@@ -630,6 +630,46 @@
         <source>%1, not accepting jobs</source>
         <translation>%1, nimmt keine Aufträge an</translation>
     </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>Standar&amp;ds</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>Als meine Standardeinstellungen für diesen Drucker verwenden</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>Die Druckdialoge aller Programme und lp beginnen auf diesem Drucker mit diesen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>Als meinen Standarddrucker festlegen</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>Diese Voreinstellung als meinen Standarddrucker festlegen</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>Eine Voreinstellung namens „%1“ gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>Die Standardeinstellungen können nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>Diese Einstellungen sind jetzt Ihre Standardeinstellungen für %1. Kennwörter und PINs werden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>Der Standarddrucker kann nicht festgelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 ist jetzt Ihr Standarddrucker.</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

@@ -630,6 +630,46 @@
         <source>%1, not accepting jobs</source>
         <translation>%1, not accepting jobs</translation>
     </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>Defa&amp;ults</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>Use as My Defaults for This Printer</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>Every application's print dialog and lp start from these settings on this printer.</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>Make This My Default Printer</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>Make This Preset My Default Printer</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>A preset named &quot;%1&quot; exists. Replace it?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>The defaults cannot be saved: %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>These settings are now your defaults for %1. Passwords and PINs are not kept.</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>The default printer cannot be set: %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 is now your default printer.</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

@@ -630,6 +630,46 @@
         <source>%1, not accepting jobs</source>
         <translation>%1, n’accepte pas de travaux</translation>
     </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>Par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>Utiliser comme mes réglages par défaut pour cette imprimante</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>Les dialogues d’impression de toutes les applications et lp partent de ces réglages sur cette imprimante.</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>Définir comme mon imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>Définir ce préréglage comme mon imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>Un préréglage nommé « %1 » existe. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>Les réglages par défaut ne peuvent pas être enregistrés : %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>Ces réglages sont désormais vos réglages par défaut pour %1. Les mots de passe et codes PIN ne sont pas conservés.</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>L’imprimante par défaut ne peut pas être définie : %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 est désormais votre imprimante par défaut.</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

@@ -630,6 +630,46 @@
         <source>%1, not accepting jobs</source>
         <translation>%1、ジョブを受け付けていません</translation>
     </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>既定(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>このプリンターの既定の設定にする</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>このプリンターでは、すべてのアプリケーションの印刷ダイアログと lp がこの設定から始まります。</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>既定のプリンターにする</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>このプリセットを既定のプリンターにする</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>プリセット「%1」はすでにあります。置き換えますか?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>既定の設定を保存できません: %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>これらの設定が %1 の既定になりました。パスワードと PIN は保存されません。</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>既定のプリンターを設定できません: %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 が既定のプリンターになりました。</translation>
+    </message>
 </context>
 <context>
     <name>PanelStack</name>

@@ -44,6 +44,10 @@ PrinterPresetBar::PrinterPresetBar(QWidget* parent)
     connect(ui->presetCombo, &QComboBox::activated, this, &PrinterPresetBar::presetChosen);
     connect(ui->savePresetButton, &QPushButton::clicked, this, &PrinterPresetBar::savePreset);
     connect(ui->deletePresetButton, &QPushButton::clicked, this, &PrinterPresetBar::deletePreset);
+    ui->defaultsButton->addAction(ui->useAsDefaultsAction);
+    ui->defaultsButton->addAction(ui->makeDefaultPrinterAction);
+    connect(ui->useAsDefaultsAction, &QAction::triggered, this, &PrinterPresetBar::useAsDefaults);
+    connect(ui->makeDefaultPrinterAction, &QAction::triggered, this, &PrinterPresetBar::makeDefaultPrinter);
 }
 
 PrinterPresetBar::~PrinterPresetBar() = default;
@@ -200,7 +204,10 @@ void PrinterPresetBar::fillPresets()
     }
     ui->presetCombo->setCurrentIndex(qMax(0, ui->presetCombo->findData(presetName())));
     const QString why = queue ? QString() : tr("Presets are kept with a CUPS queue; a PPD file has none.");
-    for (QWidget* w : {static_cast<QWidget*>(ui->presetCombo), static_cast<QWidget*>(ui->savePresetButton)}) {
+    ui->makeDefaultPrinterAction->setText(presetName().isEmpty() ? tr("Make This My Default Printer")
+                                                                 : tr("Make This Preset My Default Printer"));
+    for (QWidget* w : {static_cast<QWidget*>(ui->presetCombo), static_cast<QWidget*>(ui->savePresetButton),
+                       static_cast<QWidget*>(ui->defaultsButton)}) {
         w->setEnabled(queue);
         w->setToolTip(why);
     }
@@ -241,6 +248,12 @@ void PrinterPresetBar::saveAs(const QString& name)
 {
     QString error;
     PresetStore store(queueName(), m_opened.server);
+    // CUPS tells presets apart without regard to case: "draft" would replace "Draft".
+    const QString existing = PresetStore::isValidName(name) ? store.existingName(name) : QString();
+    if (!existing.isEmpty()
+        && QMessageBox::question(this, window()->windowTitle(), tr("A preset named \"%1\" exists. Replace it?").arg(existing))
+               != QMessageBox::Yes)
+        return;
     PrintDialogHost::OptionList settings;
     if (!PresetStore::isValidName(name, &error) || !m_settings || !m_settings(&settings, &error)
         || !store.save(name, settings, &error)) {
@@ -268,6 +281,30 @@ void PrinterPresetBar::deletePreset()
     // The settings stay as they are, now without a preset's name.
     usePreset(QString());
     emit notice(tr("Preset \"%1\" deleted.").arg(name));
+}
+
+void PrinterPresetBar::useAsDefaults()
+{
+    QString error;
+    PrintDialogHost::OptionList settings;
+    PresetStore store(queueName(), m_opened.server);
+    if (!isQueue() || !m_settings || !m_settings(&settings, &error) || !store.setQueueDefaults(settings, &error)) {
+        QMessageBox::warning(this, window()->windowTitle(), tr("The defaults cannot be saved: %1").arg(error));
+        return;
+    }
+    emit notice(tr("These settings are now your defaults for %1. Passwords and PINs are not kept.").arg(queueName()));
+}
+
+void PrinterPresetBar::makeDefaultPrinter()
+{
+    QString error;
+    PresetStore store(queueName(), m_opened.server);
+    if (!isQueue() || !store.setDefaultDestination(presetName(), &error)) {
+        QMessageBox::warning(this, window()->windowTitle(), tr("The default printer cannot be set: %1").arg(error));
+        return;
+    }
+    fillPrinters();
+    emit notice(tr("%1 is now your default printer.").arg(m_opened.printer));
 }
 
 void PrinterPresetBar::usePreset(const QString& name)

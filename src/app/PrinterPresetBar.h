@@ -13,7 +13,8 @@ class PrinterPresetBar;
 
 // The printer chooser and the preset controls above the dialog: the queues of
 // the CUPS server, the bundled sample printers and any PPD file; the presets
-// of the queue chosen (Save As, Delete). Choosing asks the window to open
+// of the queue chosen (Save As, Delete), and the user's defaults (the
+// queue's saved settings, the default printer). Choosing asks the window to open
 // another printer; the bar shows whatever the window opened.
 class PrinterPresetBar : public QWidget {
     Q_OBJECT
@@ -56,6 +57,10 @@ private:
     void savePreset();
     void saveAs(const QString& name);
     void deletePreset();
+    // The current settings as the queue's own user defaults (lpoptions -p).
+    void useAsDefaults();
+    // The queue, or its preset, as the user's default destination (lpoptions -d).
+    void makeDefaultPrinter();
     void usePreset(const QString& name);
     PanelSession::Options optionsFor() const;  // the server and bundle of the session
 
