@@ -240,7 +240,9 @@ void PrinterPresetBar::savePreset()
     ask->setWindowTitle(tr("Save Preset"));
     ask->setLabelText(tr("Save the current settings as the preset:"));
     ask->setTextValue(presetName());
-    connect(ask, &QInputDialog::textValueSelected, this, [this](const QString& text) { saveAs(text.trimmed()); });
+    // Queued: saving may ask before replacing, which must not happen while
+    // the closing name dialog is still in its own done().
+    connect(ask, &QInputDialog::textValueSelected, this, [this](const QString& text) { saveAs(text.trimmed()); }, Qt::QueuedConnection);
     ask->open();
 }
 
