@@ -37,10 +37,9 @@ PanelStack::~PanelStack()
     detachView();
 }
 
-void PanelStack::clear()
+void PanelStack::clear(bool tellPanel)
 {
-    // The panel shown is left, and its view given back, before its session goes.
-    if (PDEPanel* shown = currentPanel())
+    if (PDEPanel* shown = currentPanel(); shown && tellPanel)
         shown->shouldHide();
     detachView();
     {

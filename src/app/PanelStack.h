@@ -30,8 +30,9 @@ public:
     void setJobSummary(JobSummary summary) { m_jobSummary = std::move(summary); }
     // Lists the panels (the PPD gives the summary its words) and shows row selectRow.
     void setPanels(const QList<std::shared_ptr<PDEPanel>>& panels, ppd_file_s* ppd, int selectRow = 0);
-    // Leaves the panel shown and empties the list, before the panels go.
-    void clear();
+    // Empties the list before the panels go, giving the view shown back;
+    // tellPanel: the panel shown is left as when another is chosen (shouldHide).
+    void clear(bool tellPanel = true);
     // Adds a panel before the summary; the entry selected stays selected.
     void appendPanel(std::shared_ptr<PDEPanel> panel);
 

@@ -99,7 +99,7 @@ PrintDialogWindow::~PrintDialogWindow()
 {
     PDEAlerts::setHandler(nullptr);
     // The panels own their views: the stack gives the one shown back first.
-    ui->panelStack->clear();
+    ui->panelStack->clear(false);
     m_session.reset();
 }
 
