@@ -122,16 +122,12 @@ private slots:
         QVERIFY(store().savedOptions(&saved, &error) && !toMap(saved).contains("EnterPassword"));
     }
 
-    // Saving again starts afresh; deleting keeps the other presets, the
-    // queue's own options and the file's mode.
+    // Deleting keeps the other presets, the queue's own options and the file's mode.
     void replaceAndDelete()
     {
         PresetStore presets = store();
         QString error;
-        QVERIFY2(presets.save("again", {{"note", "first"}, {"extra", "only the first time"}}, &error), qPrintable(error));
-        QVERIFY2(presets.save("again", {{"note", "second"}}, &error), qPrintable(error));
-        QVERIFY(load("again").value("note") == QLatin1String("second") && !load("again").contains("extra"));
-        QCOMPARE(presets.names().count("again"), 1);
+        QVERIFY2(presets.save("again", {{"note", "first"}}, &error), qPrintable(error));
         QVERIFY2(presets.save("stays", {{"note", "here"}}, &error) && presets.remove("again", &error), qPrintable(error));
         QCOMPARE(modeOf(PresetStore::lpoptionsPath()), 0600);
         QVERIFY(!presets.names().contains("again") && presets.names().contains("stays"));
@@ -143,7 +139,7 @@ private slots:
     }
 
     // Every line the store does not change stays (comments, unknown lines,
-    // destinations this server does not know); "draft" replaces "Draft"; the
+    // destinations this server does not know); "draft" replaces "Draft" afresh; the
     // queue's defaults and the default destination are read back by libcups.
     void keepsOtherLines()
     {
@@ -153,7 +149,8 @@ private slots:
         file.close();
         PresetStore presets = store();
         QString error;
-        QVERIFY2(presets.save("Draft", {{"note", "first"}}, &error) && presets.existingName("DRAFT") == QLatin1String("Draft"), qPrintable(error));
+        QVERIFY2(presets.save("Draft", {{"note", "first"}, {"extra", "first only"}}, &error) && presets.existingName("DRAFT") == QLatin1String("Draft"),
+                 qPrintable(error));
         QVERIFY2(presets.save("draft", {{"note", "second"}}, &error), qPrintable(error));
         QVERIFY2(presets.setQueueDefaults({{"Duplex", "None"}, {"EnterPassword", "x1y2"}, {"note", "queue's"}}, &error)
                      && presets.setDefaultDestination("draft", &error), qPrintable(error));
@@ -163,7 +160,7 @@ private slots:
         QVERIFY(!after.contains("Draft") && !after.contains("x1y2"));
         QCOMPARE(modeOf(PresetStore::lpoptionsPath()), 0600);
         QCOMPARE(presets.names().filter("draft", Qt::CaseInsensitive), QStringList{"draft"});
-        QCOMPARE(load("draft").value("note"), QStringLiteral("second"));
+        QVERIFY(load("draft").value("note") == QLatin1String("second") && !load("draft").contains("extra"));  // saved afresh
         cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
         QVERIFY(dest && qstrcmp(dest->name, "q") == 0 && qstrcmp(dest->instance, "draft") == 0);
         cupsFreeDests(1, dest);

@@ -397,7 +397,6 @@ private slots:
     {
         QTest::addColumn<QString>("printer");  // as opened; empty: PanelSession picks
         QTest::newRow("picked by the session") << QString();
-        QTest::newRow("queue") << "panels";
         QTest::newRow("preset") << "panels/Fast";
     }
 
