@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QList>
 #include <QPair>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -26,8 +27,8 @@ public:
     QWidget* viewParent() const { return m_viewParent.get(); }  // where the view belongs when not shown
     bool willShow() override { return note("willShow"); }
     bool shouldHide() override { return note("shouldHide") && allowHide; }
-    bool respondsToShouldPrint() const override { return printAnswer.has_value(); }
-    bool shouldPrint() override { return note("shouldPrint") && printAnswer.value_or(true); }
+    bool respondsToShouldPrint() const override { return printAnswer.has_value() || printCheck; }
+    bool shouldPrint() override { return note("shouldPrint") && (printCheck ? printCheck() : printAnswer.value_or(true)); }
     QVariantMap summaryInfo() override { return summary; }
     QStringList supportedPPDOptionKeys() override { return {}; }
     bool restoreValuesAndReturnError(QString*) override { return note("restore"); }
@@ -37,6 +38,7 @@ public:
 
     bool allowHide = true;            // shouldHide's answer
     std::optional<bool> printAnswer;  // shouldPrint's answer; none: the panel has no print checks
+    std::function<bool()> printCheck; // else shouldPrint's own checks
     QVariantMap summary;              // summaryInfo's answer
     QList<QPair<QString, QString>> changesReceived;
 

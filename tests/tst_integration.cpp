@@ -8,6 +8,7 @@
 #include "TestSupport.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
 #include <QPainter>
 #include <QPointer>
 #include <QPrintDialog>
@@ -62,7 +63,8 @@ private slots:
         // libcups reads where its server is at its first call: the private
         // server (where one can run) comes before anything else.
         if (PrivateCupsServer::canRun(&m_cupsSkipped))
-            QVERIFY2(m_cups.start(&m_cupsSkipped) && m_cups.addQueue("panels", TestSupport::samplePPD(), &m_cupsSkipped),
+            QVERIFY2(m_cups.start(&m_cupsSkipped) && m_cups.addQueue("panels", TestSupport::samplePPD(), &m_cupsSkipped)
+                         && m_cups.addQueue("mono", TestSupport::samplePPD("velmora-m200"), &m_cupsSkipped),
                      qPrintable(m_cupsSkipped));
     }
 
@@ -186,6 +188,37 @@ private slots:
         // The panels' options and Qt's dialog's reach the printer's filters.
         const QMap<QString, QString> got = job.parsedOptions();
         QCOMPARE(got.value("PageSize") + got.value("Duplex") + got.value("collate"), QStringLiteral("LetterNone") + expected[1]);
+    }
+
+    // Another printer chosen in Qt's own list: the panels are the new
+    // printer's, carrying the choices it offers and approves, and the job
+    // carries its options.
+    void printerSwitch()
+    {
+        if (!m_cups.isRunning())
+            QSKIP(qPrintable(QStringLiteral("no private cupsd: ") + m_cupsSkipped));
+        // Choices on the colour printer: resolution (both offer it), two-sided
+        // (the mono printer has no duplex unit installed), colour (it has none).
+        QVERIFY(m_cups.runClient("lpoptions", {"-p", "panels", "-o", "VELResolution=1200dpi Duplex=DuplexTumble ColorModel=Gray note=kept"}));
+        QPrinter printer;
+        printer.setPrinterName(QStringLiteral("panels"));
+        QPrintDialog dialog(&printer);
+        PrintPanelsIntegration panels;
+        QVERIFY2(panels.addPanelsToDialog(&dialog, &printer), qPrintable(panels.errorString()));
+        auto* printers = dialog.findChild<QComboBox*>(QStringLiteral("printers"));
+        QVERIFY(printers && printers->findText("mono") >= 0);
+        printers->setCurrentIndex(printers->findText("mono"));
+        QCOMPARE(panels.queue(), QStringLiteral("mono"));
+        QCOMPARE(optionTabs(dialog).mid(optionTabs(dialog).size() - panels.panelNames().size()), panels.panelNames());
+        dialog.accept();  // Qt's dialog sets the printer chosen
+        QVERIFY2(panels.applyToPrinter(&printer), qPrintable(panels.errorString()));
+        QPainter(&printer).drawText(100, 100, QStringLiteral("switched"));
+        const int id = panels.submitJob();
+        PrivateCupsServer::CapturedJob job;
+        QVERIFY2(id > 0 && m_cups.waitForJob("mono", id, &job), qPrintable(panels.errorString() + m_cups.errorLog()));
+        const QMap<QString, QString> got = job.parsedOptions();
+        QCOMPARE((QStringList{got.value("VELResolution"), got.value("Duplex"), got.value("note"), got.value("ColorModel", "absent")}),
+                 (QStringList{"1200dpi", "None", "kept", "absent"}));
     }
 };
 

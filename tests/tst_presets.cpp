@@ -8,6 +8,9 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QTest>
+#include <csignal>
+#include <cups/cups.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -119,16 +122,12 @@ private slots:
         QVERIFY(store().savedOptions(&saved, &error) && !toMap(saved).contains("EnterPassword"));
     }
 
-    // Saving again starts afresh; deleting keeps the other presets, the
-    // queue's own options and the file's mode.
+    // Deleting keeps the other presets, the queue's own options and the file's mode.
     void replaceAndDelete()
     {
         PresetStore presets = store();
         QString error;
-        QVERIFY2(presets.save("again", {{"note", "first"}, {"extra", "only the first time"}}, &error), qPrintable(error));
-        QVERIFY2(presets.save("again", {{"note", "second"}}, &error), qPrintable(error));
-        QVERIFY(load("again").value("note") == QLatin1String("second") && !load("again").contains("extra"));
-        QCOMPARE(presets.names().count("again"), 1);
+        QVERIFY2(presets.save("again", {{"note", "first"}}, &error), qPrintable(error));
         QVERIFY2(presets.save("stays", {{"note", "here"}}, &error) && presets.remove("again", &error), qPrintable(error));
         QCOMPARE(modeOf(PresetStore::lpoptionsPath()), 0600);
         QVERIFY(!presets.names().contains("again") && presets.names().contains("stays"));
@@ -137,6 +136,53 @@ private slots:
         QCOMPARE(load("stays").value("note"), QStringLiteral("here"));
         QVERIFY(presets.savedOptions(&options, &error));
         QCOMPARE(toMap(options).value("Duplex"), QStringLiteral("DuplexNoTumble"));
+    }
+
+    // Every line the store does not change stays (comments, unknown lines,
+    // destinations this server does not know); "draft" replaces "Draft" afresh; the
+    // queue's defaults and the default destination are read back by libcups.
+    void keepsOtherLines()
+    {
+        const QByteArrayList others{"# my printers", "Dest elsewhere/Wide Duplex=DuplexTumble", "Something unknown"};
+        QFile file(PresetStore::lpoptionsPath());
+        QVERIFY(file.open(QIODevice::Append) && file.write("\n" + others.join('\n') + "\nDefault elsewhere\n") > 0);
+        file.close();
+        PresetStore presets = store();
+        QString error;
+        QVERIFY2(presets.save("Draft", {{"note", "first"}, {"extra", "first only"}}, &error) && presets.existingName("DRAFT") == QLatin1String("Draft"),
+                 qPrintable(error));
+        QVERIFY2(presets.save("draft", {{"note", "second"}}, &error), qPrintable(error));
+        QVERIFY2(presets.setQueueDefaults({{"Duplex", "None"}, {"EnterPassword", "x1y2"}, {"note", "queue's"}}, &error)
+                     && presets.setDefaultDestination("draft", &error), qPrintable(error));
+        const QByteArray after = fileBytes(PresetStore::lpoptionsPath());
+        for (const QByteArray& line : others + QByteArrayList{"Dest elsewhere\n", "Default q/draft "})
+            QVERIFY2(after.contains(line), line.constData());
+        QVERIFY(!after.contains("Draft") && !after.contains("x1y2"));
+        QCOMPARE(modeOf(PresetStore::lpoptionsPath()), 0600);
+        QCOMPARE(presets.names().filter("draft", Qt::CaseInsensitive), QStringList{"draft"});
+        QVERIFY(load("draft").value("note") == QLatin1String("second") && !load("draft").contains("extra"));  // saved afresh
+        cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+        QVERIFY(dest && qstrcmp(dest->name, "q") == 0 && qstrcmp(dest->instance, "draft") == 0);
+        cupsFreeDests(1, dest);
+        OptionList saved;
+        QVERIFY(presets.savedOptions(&saved) && toMap(saved).value("note") == QLatin1String("queue's"));
+    }
+
+    // A write that fails (the file size limit, as a full disk) is an error
+    // and leaves the file as it was.
+    void failedWriteKeepsFile()
+    {
+        const QByteArray before = fileBytes(PresetStore::lpoptionsPath());
+        struct rlimit old;
+        QVERIFY(::getrlimit(RLIMIT_FSIZE, &old) == 0);
+        ::signal(SIGXFSZ, SIG_IGN);
+        const struct rlimit small{rlim_t(before.size() / 2), old.rlim_max};
+        QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
+        QString error;
+        const bool saved = store().save("large", {{"note", QString(4000, QLatin1Char('x'))}}, &error);
+        ::setrlimit(RLIMIT_FSIZE, &old);
+        QVERIFY2(!saved && error.contains("cannot be written"), qPrintable(error));
+        QCOMPARE(fileBytes(PresetStore::lpoptionsPath()), before);
     }
 
     // Bad input gets a clear error and leaves the file as it was.

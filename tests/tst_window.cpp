@@ -10,6 +10,7 @@
 #include "RecordingPanel.h"
 #include "TestSupport.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QComboBox>
@@ -29,6 +30,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
+#include <cups/cups.h>
 
 namespace {
 // A printer with a paper size that conflicts with long-edge duplex printing.
@@ -93,7 +95,7 @@ private:
     }
 
     // Clicks the button of that text in the next modal message box; keeps
-    // the box's text, message and buttons in m_box.
+    // the box's text, message and buttons in m_box, then the entry shown.
     void answerBox(const QString& button)
     {
         auto* poll = new QTimer(this);
@@ -104,7 +106,9 @@ private:
                 m_box = QStringList{box->text(), box->informativeText()};
                 for (QAbstractButton* b : box->buttons())
                     m_box << b->text().remove(QLatin1Char('&'));
-                QTest::mouseClick(box->buttons().value(m_box.indexOf(button) - 2), Qt::LeftButton);
+                const int index = int(m_box.indexOf(button)) - 2;
+                m_box << (m_window->currentPanel() ? m_window->currentPanel()->panelName() : QStringLiteral("Summary"));
+                QTest::mouseClick(box->buttons().value(index), Qt::LeftButton);
             }
         });
         poll->start(20);
@@ -257,17 +261,25 @@ private slots:
         QTest::newRow("other button") << "Later" << int(PDEAlerts::OtherButton);
     }
 
-    // A panel's alert is a message box over the window, its buttons answered.
+    // A panel alerting in its print checks is brought to the front, then its
+    // alert is a message box over the window, its buttons answered.
     void alerts()
     {
         QFETCH(QString, clicked);
         QFETCH(int, answer);
         openWindow();
+        int got = -2;
+        m_panel["C"]->printCheck = [&got] {
+            got = PDEAlerts::runAlertPanel({"The PIN is too short", "Enter four digits.", "Print Anyway", "Cancel", "Later"});
+            return got == PDEAlerts::DefaultButton;
+        };
         answerBox(clicked);
-        const PDEAlerts::Alert alert{"The PIN is too short", "Enter four digits.", "Print Anyway", "Cancel", "Later"};
-        QCOMPARE(PDEAlerts::runAlertPanel(alert), answer);
+        QTest::mouseClick(widget<QPushButton>("printButton"), Qt::LeftButton);
+        QCOMPARE(got, answer);
+        QCOMPARE(m_box.takeLast(), QStringLiteral("C"));  // shown when the box appeared
         m_box.sort();
         QCOMPARE(m_box, QStringList({"Cancel", "Enter four digits.", "Later", "Print Anyway", "The PIN is too short"}));
+        QCOMPARE(bool(m_window->findChild<LpCommandDialog*>()), answer == PDEAlerts::DefaultButton);
     }
 
     // Every panel saved, then the lp command that prints the same (a
@@ -313,7 +325,7 @@ private slots:
         if (!m_cups.isRunning())
             QSKIP(qPrintable(QStringLiteral("presets need a private cupsd: ") + m_cupsSkipped));
 
-        printers->setCurrentIndex(printers->findText(QStringLiteral("panels")));
+        printers->setCurrentIndex(printers->findText(QStringLiteral("panels"), Qt::MatchStartsWith));
         emit printers->activated(printers->currentIndex());
         auto* presets = widget<QComboBox>("presetCombo");
         QCOMPARE(presets->currentText(), QStringLiteral("Default settings"));
@@ -324,8 +336,17 @@ private slots:
         QTest::keyClicks(ask->findChild<QLineEdit*>(), QStringLiteral("Draft"));
         QTest::keyClick(ask->findChild<QLineEdit*>(), Qt::Key_Return);
         QTRY_COMPARE(presets->currentText(), QStringLiteral("Draft"));
+        // "draft" is the same preset to CUPS: the dialog asks, then replaces it.
+        QTest::mouseClick(widget<QPushButton>("savePresetButton"), Qt::LeftButton);
+        QTRY_VERIFY((ask = m_window->findChild<QInputDialog*>()) && ask->isVisible());
+        ask->setTextValue(QStringLiteral("draft"));
+        answerBox(QStringLiteral("Yes"));
+        QTest::keyClick(ask->findChild<QLineEdit*>(), Qt::Key_Return);
+        QTRY_COMPARE(presets->currentText(), QStringLiteral("draft"));
+        QCOMPARE(presets->count(), 2);
+        QVERIFY(m_box.value(0).contains(QStringLiteral("\"Draft\" exists")));
         PrintDialogHost::OptionList saved;
-        QVERIFY(PresetStore(QStringLiteral("panels")).load(QStringLiteral("Draft"), &saved) && saved.contains({"copies", "4"}));
+        QVERIFY(PresetStore(QStringLiteral("panels")).load(QStringLiteral("draft"), &saved) && saved.contains({"copies", "4"}));
         presets->setFocus();
         QTest::keyClick(presets, Qt::Key_Home);
         QTRY_COMPARE(widget<QSpinBox>("copiesSpin")->value(), 1);
@@ -333,8 +354,99 @@ private slots:
         QTRY_COMPARE(widget<QSpinBox>("copiesSpin")->value(), 4);
         answerBox(QStringLiteral("Yes"));
         QTest::mouseClick(widget<QPushButton>("deletePresetButton"), Qt::LeftButton);
-        QTRY_VERIFY(presets->findText(QStringLiteral("Draft")) < 0);
+        QTRY_VERIFY(presets->findText(QStringLiteral("draft")) < 0);
         QVERIFY(PresetStore(QStringLiteral("panels")).names().isEmpty());
+        // The settings as the queue's own defaults, the queue as the default printer.
+        widget<QAction>("useAsDefaultsAction")->trigger();
+        QVERIFY(PresetStore(QStringLiteral("panels")).savedOptions(&saved) && saved.contains({"copies", "4"}));
+        widget<QAction>("makeDefaultPrinterAction")->trigger();
+        cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+        QVERIFY(dest && qstrcmp(dest->name, "panels") == 0 && !dest->instance);
+        cupsFreeDests(1, dest);
+    }
+
+    void printerChooser_data()
+    {
+        QTest::addColumn<QStringList>("commands");  // run against the private cupsd first
+        QTest::addColumn<QString>("text");
+        QTest::newRow("idle") << QStringList{"cupsenable", "cupsaccept"} << QStringLiteral("panels \u2014 idle, Room 2");
+        QTest::newRow("stopped") << QStringList{"cupsdisable"} << QStringLiteral("panels \u2014 stopped, Room 2");
+        QTest::newRow("not accepting") << QStringList{"cupsenable", "cupsreject"}
+                                       << QStringLiteral("panels \u2014 idle, not accepting jobs, Room 2");
+    }
+
+    // Each queue shows its state and location, its make and model in the tooltip.
+    void printerChooser()
+    {
+        QFETCH(QStringList, commands);
+        QFETCH(QString, text);
+        if (!m_cups.isRunning())
+            QSKIP(qPrintable(QStringLiteral("needs a private cupsd: ") + m_cupsSkipped));
+        QVERIFY(m_cups.runClient("lpadmin", {"-p", "panels", "-L", "Room 2"}));
+        for (const QString& c : commands)
+            QVERIFY(m_cups.runClient(c, {"panels"}));
+        openWindow();
+        auto* printers = widget<QComboBox>("printerCombo");
+        const int index = printers->findText(text);
+        QVERIFY2(index >= 0, qPrintable(printers->itemText(0)));
+        QVERIFY(printers->itemData(index, Qt::ToolTipRole).toString().contains(QStringLiteral("Make and model: Velmora C5500 MFP")));
+        QVERIFY(m_cups.runClient("cupsenable", {"panels"}) && m_cups.runClient("cupsaccept", {"panels"}));
+    }
+
+    void chooserShowsOpened_data()
+    {
+        QTest::addColumn<QString>("printer");  // as opened; empty: PanelSession picks
+        QTest::newRow("picked by the session") << QString();
+        QTest::newRow("preset") << "panels/Fast";
+    }
+
+    // The chooser and the presets show whichever printer the session opened.
+    void chooserShowsOpened()
+    {
+        QFETCH(QString, printer);
+        if (!m_cups.isRunning() && !printer.isEmpty())
+            QSKIP(qPrintable(QStringLiteral("needs a private cupsd: ") + m_cupsSkipped));
+        QVERIFY(printer.isEmpty() || m_cups.runClient("lpoptions", {"-p", "panels/Fast", "-o", "copies=2"}));
+        m_window = std::make_unique<PrintDialogWindow>();
+        QString error;
+        QVERIFY2(m_window->openSession({{}, printer, {}, {}, {}}, &error), qPrintable(error));
+        const PMPrinter* opened = m_window->session()->host().pmPrinter();
+        const QString shown = widget<QComboBox>("printerCombo")->currentText();
+        if (opened->isQueue())
+            QVERIFY2(shown.startsWith(opened->name().section(QLatin1Char('/'), 0, 0) + QStringLiteral(" \u2014")), qPrintable(shown));
+        else
+            QCOMPARE(shown, QStringLiteral("Velmora C5500 MFP (sample PPD file)"));
+        QCOMPARE(widget<QComboBox>("presetCombo")->currentData().toString(), opened->name().section(QLatin1Char('/'), 1));
+        QVERIFY(printer.isEmpty() || m_cups.runClient("lpoptions", {"-x", "panels/Fast"}));
+    }
+
+    // A conflict resolved while the printer opened is told in the notice.
+    void openingNotice()
+    {
+        openWindow({"PageSize=A4"});
+        QVERIFY2(notice().contains(QStringLiteral("To resolve a conflict, 2-Sided Printing set to Off.")), qPrintable(notice()));
+    }
+
+    void invalidPageRange_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::newRow("descending") << "5-3";
+        QTest::newRow("page 0") << "0-2";
+        QTest::newRow("empty part") << "1,,4";
+        QTest::newRow("trailing comma") << "2,";
+    }
+
+    // An invalid page range keeps the dialog open, the field marked: nothing is printed.
+    void invalidPageRange()
+    {
+        QFETCH(QString, typed);
+        openWindow();
+        QTest::mouseClick(widget<QRadioButton>("pageRangeRadio"), Qt::LeftButton);
+        QTest::keyClicks(widget<QLineEdit>("pageRangeEdit"), typed);
+        QTest::mouseClick(widget<QPushButton>("printButton"), Qt::LeftButton);
+        QVERIFY2(notice().contains(QStringLiteral("not valid")), qPrintable(notice()));
+        QVERIFY(widget<QLineEdit>("pageRangeEdit")->property("invalidInput").toBool() && widget<QLineEdit>("pageRangeEdit")->hasFocus());
+        QVERIFY(!m_window->findChild<LpCommandDialog*>() && m_journal.filter(QStringLiteral(":save")).isEmpty());
     }
 };
 

@@ -675,6 +675,10 @@
         <source>All</source>
         <translation>Alle</translation>
     </message>
+    <message>
+        <source>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</source>
+        <translation>Der Seitenbereich „%1“ ist ungültig: Geben Sie Seiten und Bereiche wie 1-3,5,8- an.</translation>
+    </message>
 </context>
 <context>
     <name>LpCommandDialog</name>
@@ -717,22 +721,6 @@
         <translation>Drucken</translation>
     </message>
     <message>
-        <source>Print&amp;er:</source>
-        <translation>Dr&amp;ucker:</translation>
-    </message>
-    <message>
-        <source>Prese&amp;ts:</source>
-        <translation>V&amp;oreinstellungen:</translation>
-    </message>
-    <message>
-        <source>&amp;Save As…</source>
-        <translation>&amp;Sichern unter…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Entfernen</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>Dokumente:</translation>
     </message>
@@ -743,14 +731,6 @@
     <message>
         <source>Job</source>
         <translation>Auftrag</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Einstellung</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Wert</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -771,6 +751,112 @@
     <message>
         <source>The printer cannot be used: %1</source>
         <translation>Der Drucker kann nicht verwendet werden: %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 drucken</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Zu druckende Dokumente</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>&amp;lp-Befehl zeigen…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>Dieser Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: Stattdessen wird der Befehl gezeigt, der mit diesen Einstellungen druckt.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Fügen Sie zuerst die zu druckenden Dokumente hinzu.</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 auf %2 gesetzt</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>Um einen Konflikt zu lösen: %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>die Einstellungen von %1 sind unvollständig</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>Der Auftrag wurde nicht gedruckt: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>es gibt kein Dokument zum Drucken</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: Der Ordner kann nicht angelegt werden</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 kann nicht geschrieben werden</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>der Drucker ist keine CUPS-Warteschlange, und es wurde keine PPD-Datei angegeben</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>es wurde kein Drucker geöffnet</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>es kann keine Spool-Datei angelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() wurde nicht aufgerufen</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>der Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: es wurde nichts gesendet</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPresetBar</name>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Dr&amp;ucker:</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>V&amp;oreinstellungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Sichern unter…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Entfernen</translation>
     </message>
     <message>
         <source>%1 (sample PPD file)</source>
@@ -849,28 +935,95 @@
         <translation>Voreinstellung „%1“ entfernt.</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Keine</translation>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
     </message>
     <message>
-        <source>Print %1</source>
-        <translation>%1 drucken</translation>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2, %3</translation>
     </message>
     <message>
-        <source>Documents to Print</source>
-        <translation>Zu druckende Dokumente</translation>
+        <source>Make and model: %1</source>
+        <translation>Hersteller und Modell: %1</translation>
     </message>
     <message>
-        <source>Show &amp;lp Command…</source>
-        <translation>&amp;lp-Befehl zeigen…</translation>
+        <source>Location: %1</source>
+        <translation>Standort: %1</translation>
     </message>
     <message>
-        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
-        <translation>Dieser Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: Stattdessen wird der Befehl gezeigt, der mit diesen Einstellungen druckt.</translation>
+        <source>State: %1</source>
+        <translation>Status: %1</translation>
     </message>
     <message>
-        <source>Add the documents to print first.</source>
-        <translation>Fügen Sie zuerst die zu druckenden Dokumente hinzu.</translation>
+        <source>Your default printer</source>
+        <translation>Ihr Standarddrucker</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>angehalten</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>druckt</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1, nimmt keine Aufträge an</translation>
+    </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>Standar&amp;ds</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>Als meine Standardeinstellungen für diesen Drucker verwenden</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>Die Druckdialoge aller Programme und lp beginnen auf diesem Drucker mit diesen Einstellungen.</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>Als meinen Standarddrucker festlegen</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>Diese Voreinstellung als meinen Standarddrucker festlegen</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>Eine Voreinstellung namens „%1“ gibt es schon. Ersetzen?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>Die Standardeinstellungen können nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>Diese Einstellungen sind jetzt Ihre Standardeinstellungen für %1. Kennwörter und PINs werden nicht gespeichert.</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>Der Standarddrucker kann nicht festgelegt werden: %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 ist jetzt Ihr Standarddrucker.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelStack</name>
+    <message>
+        <source>Setting</source>
+        <translation>Einstellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -893,67 +1046,8 @@
         <translation>(verborgen)</translation>
     </message>
     <message>
-        <source>%1 set to %2</source>
-        <translation>%1 auf %2 gesetzt</translation>
-    </message>
-    <message>
-        <source>To resolve a conflict, %1.</source>
-        <translation>Um einen Konflikt zu lösen: %1.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>the settings of %1 are not complete</source>
-        <translation>die Einstellungen von %1 sind unvollständig</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>Nicht gedruckt: %1</translation>
-    </message>
-    <message>
-        <source>The job was not printed: %1</source>
-        <translation>Der Auftrag wurde nicht gedruckt: %1</translation>
-    </message>
-    <message>
-        <source>there is no document to print</source>
-        <translation>es gibt kein Dokument zum Drucken</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1: Der Ordner kann nicht angelegt werden</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 kann nicht geschrieben werden</translation>
-    </message>
-</context>
-<context>
-    <name>PrintPanelsIntegration</name>
-    <message>
-        <source>the printer is not a CUPS queue and no PPD file was given</source>
-        <translation>der Drucker ist keine CUPS-Warteschlange, und es wurde keine PPD-Datei angegeben</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>no printer was opened</source>
-        <translation>es wurde kein Drucker geöffnet</translation>
-    </message>
-    <message>
-        <source>no spool file can be made: %1</source>
-        <translation>es kann keine Spool-Datei angelegt werden: %1</translation>
-    </message>
-    <message>
-        <source>applyToPrinter() was not called</source>
-        <translation>applyToPrinter() wurde nicht aufgerufen</translation>
-    </message>
-    <message>
-        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
-        <translation>der Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: es wurde nichts gesendet</translation>
+        <source>Job</source>
+        <translation>Auftrag</translation>
     </message>
 </context>
 <context>

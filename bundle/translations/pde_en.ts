@@ -675,6 +675,10 @@
         <source>All</source>
         <translation>All</translation>
     </message>
+    <message>
+        <source>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</source>
+        <translation>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</translation>
+    </message>
 </context>
 <context>
     <name>LpCommandDialog</name>
@@ -717,22 +721,6 @@
         <translation>Print</translation>
     </message>
     <message>
-        <source>Print&amp;er:</source>
-        <translation>Print&amp;er:</translation>
-    </message>
-    <message>
-        <source>Prese&amp;ts:</source>
-        <translation>Prese&amp;ts:</translation>
-    </message>
-    <message>
-        <source>&amp;Save As…</source>
-        <translation>&amp;Save As…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>&amp;Delete</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>Documents:</translation>
     </message>
@@ -743,14 +731,6 @@
     <message>
         <source>Job</source>
         <translation>Job</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Setting</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Value</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -771,6 +751,112 @@
     <message>
         <source>The printer cannot be used: %1</source>
         <translation>The printer cannot be used: %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>None</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Print %1</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Documents to Print</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>Show &amp;lp Command…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Add the documents to print first.</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 set to %2</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>To resolve a conflict, %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>the settings of %1 are not complete</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Not printed: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>The job was not printed: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>there is no document to print</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: the folder cannot be made</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 cannot be written</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>the printer is not a CUPS queue and no PPD file was given</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>no printer was opened</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>no spool file can be made: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() was not called</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>the printer is a PPD file without a CUPS queue: nothing was sent</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPresetBar</name>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Print&amp;er:</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>Prese&amp;ts:</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>&amp;Save As…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>&amp;Delete</translation>
     </message>
     <message>
         <source>%1 (sample PPD file)</source>
@@ -849,28 +935,95 @@
         <translation>Preset &quot;%1&quot; deleted.</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>None</translation>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
     </message>
     <message>
-        <source>Print %1</source>
-        <translation>Print %1</translation>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2, %3</translation>
     </message>
     <message>
-        <source>Documents to Print</source>
-        <translation>Documents to Print</translation>
+        <source>Make and model: %1</source>
+        <translation>Make and model: %1</translation>
     </message>
     <message>
-        <source>Show &amp;lp Command…</source>
-        <translation>Show &amp;lp Command…</translation>
+        <source>Location: %1</source>
+        <translation>Location: %1</translation>
     </message>
     <message>
-        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
-        <translation>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</translation>
+        <source>State: %1</source>
+        <translation>State: %1</translation>
     </message>
     <message>
-        <source>Add the documents to print first.</source>
-        <translation>Add the documents to print first.</translation>
+        <source>Your default printer</source>
+        <translation>Your default printer</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>stopped</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>printing</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>idle</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1, not accepting jobs</translation>
+    </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>Defa&amp;ults</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>Use as My Defaults for This Printer</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>Every application's print dialog and lp start from these settings on this printer.</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>Make This My Default Printer</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>Make This Preset My Default Printer</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>A preset named &quot;%1&quot; exists. Replace it?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>The defaults cannot be saved: %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>These settings are now your defaults for %1. Passwords and PINs are not kept.</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>The default printer cannot be set: %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 is now your default printer.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelStack</name>
+    <message>
+        <source>Setting</source>
+        <translation>Setting</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Value</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -893,67 +1046,8 @@
         <translation>(hidden)</translation>
     </message>
     <message>
-        <source>%1 set to %2</source>
-        <translation>%1 set to %2</translation>
-    </message>
-    <message>
-        <source>To resolve a conflict, %1.</source>
-        <translation>To resolve a conflict, %1.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>the settings of %1 are not complete</source>
-        <translation>the settings of %1 are not complete</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>Not printed: %1</translation>
-    </message>
-    <message>
-        <source>The job was not printed: %1</source>
-        <translation>The job was not printed: %1</translation>
-    </message>
-    <message>
-        <source>there is no document to print</source>
-        <translation>there is no document to print</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1: the folder cannot be made</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 cannot be written</translation>
-    </message>
-</context>
-<context>
-    <name>PrintPanelsIntegration</name>
-    <message>
-        <source>the printer is not a CUPS queue and no PPD file was given</source>
-        <translation>the printer is not a CUPS queue and no PPD file was given</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>no printer was opened</source>
-        <translation>no printer was opened</translation>
-    </message>
-    <message>
-        <source>no spool file can be made: %1</source>
-        <translation>no spool file can be made: %1</translation>
-    </message>
-    <message>
-        <source>applyToPrinter() was not called</source>
-        <translation>applyToPrinter() was not called</translation>
-    </message>
-    <message>
-        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
-        <translation>the printer is a PPD file without a CUPS queue: nothing was sent</translation>
+        <source>Job</source>
+        <translation>Job</translation>
     </message>
 </context>
 <context>

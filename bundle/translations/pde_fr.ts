@@ -675,6 +675,10 @@
         <source>All</source>
         <translation>Toutes</translation>
     </message>
+    <message>
+        <source>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</source>
+        <translation>La plage de pages « %1 » n’est pas valide : indiquez des pages et des plages comme 1-3,5,8-.</translation>
+    </message>
 </context>
 <context>
     <name>LpCommandDialog</name>
@@ -717,22 +721,6 @@
         <translation>Imprimer</translation>
     </message>
     <message>
-        <source>Print&amp;er:</source>
-        <translation>Imprima&amp;nte :</translation>
-    </message>
-    <message>
-        <source>Prese&amp;ts:</source>
-        <translation>Pré&amp;réglages :</translation>
-    </message>
-    <message>
-        <source>&amp;Save As…</source>
-        <translation>Enregistrer &amp;sous…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>Suppri&amp;mer</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>Documents :</translation>
     </message>
@@ -743,14 +731,6 @@
     <message>
         <source>Job</source>
         <translation>Tâche</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>Réglage</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>Valeur</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -771,6 +751,112 @@
     <message>
         <source>The printer cannot be used: %1</source>
         <translation>L’imprimante ne peut pas être utilisée : %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Aucun</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>Imprimer %1</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>Documents à imprimer</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>Afficher la commande &amp;lp…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>Cette imprimante est un fichier PPD sans file d’attente CUPS : la commande qui imprime avec ces réglages est affichée à la place.</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>Ajoutez d’abord les documents à imprimer.</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 réglé sur %2</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>Pour résoudre un conflit : %1.</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>, </translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>les réglages de %1 sont incomplets</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>Non imprimé : %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>La tâche n’a pas été imprimée : %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>il n’y a aucun document à imprimer</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1 : le dossier ne peut pas être créé</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 ne peut pas être écrit</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>l’imprimante n’est pas une file d’attente CUPS et aucun fichier PPD n’a été donné</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>aucune imprimante n’a été ouverte</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>aucun fichier d’impression ne peut être créé : %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() n’a pas été appelée</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>l’imprimante est un fichier PPD sans file d’attente CUPS : rien n’a été envoyé</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPresetBar</name>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>Imprima&amp;nte :</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>Pré&amp;réglages :</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>Enregistrer &amp;sous…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Suppri&amp;mer</translation>
     </message>
     <message>
         <source>%1 (sample PPD file)</source>
@@ -849,28 +935,95 @@
         <translation>Préréglage « %1 » supprimé.</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>Aucun</translation>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
     </message>
     <message>
-        <source>Print %1</source>
-        <translation>Imprimer %1</translation>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2, %3</translation>
     </message>
     <message>
-        <source>Documents to Print</source>
-        <translation>Documents à imprimer</translation>
+        <source>Make and model: %1</source>
+        <translation>Marque et modèle : %1</translation>
     </message>
     <message>
-        <source>Show &amp;lp Command…</source>
-        <translation>Afficher la commande &amp;lp…</translation>
+        <source>Location: %1</source>
+        <translation>Emplacement : %1</translation>
     </message>
     <message>
-        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
-        <translation>Cette imprimante est un fichier PPD sans file d’attente CUPS : la commande qui imprime avec ces réglages est affichée à la place.</translation>
+        <source>State: %1</source>
+        <translation>État : %1</translation>
     </message>
     <message>
-        <source>Add the documents to print first.</source>
-        <translation>Ajoutez d’abord les documents à imprimer.</translation>
+        <source>Your default printer</source>
+        <translation>Votre imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>arrêtée</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>en impression</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>inactive</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1, n’accepte pas de travaux</translation>
+    </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>Par &amp;défaut</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>Utiliser comme mes réglages par défaut pour cette imprimante</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>Les dialogues d’impression de toutes les applications et lp partent de ces réglages sur cette imprimante.</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>Définir comme mon imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>Définir ce préréglage comme mon imprimante par défaut</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>Un préréglage nommé « %1 » existe. Le remplacer ?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>Les réglages par défaut ne peuvent pas être enregistrés : %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>Ces réglages sont désormais vos réglages par défaut pour %1. Les mots de passe et codes PIN ne sont pas conservés.</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>L’imprimante par défaut ne peut pas être définie : %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 est désormais votre imprimante par défaut.</translation>
+    </message>
+</context>
+<context>
+    <name>PanelStack</name>
+    <message>
+        <source>Setting</source>
+        <translation>Réglage</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valeur</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -893,67 +1046,8 @@
         <translation>(masqué)</translation>
     </message>
     <message>
-        <source>%1 set to %2</source>
-        <translation>%1 réglé sur %2</translation>
-    </message>
-    <message>
-        <source>To resolve a conflict, %1.</source>
-        <translation>Pour résoudre un conflit : %1.</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
-    </message>
-    <message>
-        <source>the settings of %1 are not complete</source>
-        <translation>les réglages de %1 sont incomplets</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>Non imprimé : %1</translation>
-    </message>
-    <message>
-        <source>The job was not printed: %1</source>
-        <translation>La tâche n’a pas été imprimée : %1</translation>
-    </message>
-    <message>
-        <source>there is no document to print</source>
-        <translation>il n’y a aucun document à imprimer</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1 : le dossier ne peut pas être créé</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 ne peut pas être écrit</translation>
-    </message>
-</context>
-<context>
-    <name>PrintPanelsIntegration</name>
-    <message>
-        <source>the printer is not a CUPS queue and no PPD file was given</source>
-        <translation>l’imprimante n’est pas une file d’attente CUPS et aucun fichier PPD n’a été donné</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>no printer was opened</source>
-        <translation>aucune imprimante n’a été ouverte</translation>
-    </message>
-    <message>
-        <source>no spool file can be made: %1</source>
-        <translation>aucun fichier d’impression ne peut être créé : %1</translation>
-    </message>
-    <message>
-        <source>applyToPrinter() was not called</source>
-        <translation>applyToPrinter() n’a pas été appelée</translation>
-    </message>
-    <message>
-        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
-        <translation>l’imprimante est un fichier PPD sans file d’attente CUPS : rien n’a été envoyé</translation>
+        <source>Job</source>
+        <translation>Tâche</translation>
     </message>
 </context>
 <context>

@@ -675,6 +675,10 @@
         <source>All</source>
         <translation>すべて</translation>
     </message>
+    <message>
+        <source>The page range &quot;%1&quot; is not valid: give pages and ranges such as 1-3,5,8-.</source>
+        <translation>ページ範囲「%1」は無効です。1-3,5,8- のようにページと範囲を指定してください。</translation>
+    </message>
 </context>
 <context>
     <name>LpCommandDialog</name>
@@ -717,22 +721,6 @@
         <translation>プリント</translation>
     </message>
     <message>
-        <source>Print&amp;er:</source>
-        <translation>プリンタ(&amp;E):</translation>
-    </message>
-    <message>
-        <source>Prese&amp;ts:</source>
-        <translation>プリセット(&amp;T):</translation>
-    </message>
-    <message>
-        <source>&amp;Save As…</source>
-        <translation>別名で保存(&amp;S)…</translation>
-    </message>
-    <message>
-        <source>&amp;Delete</source>
-        <translation>削除(&amp;D)</translation>
-    </message>
-    <message>
         <source>Documents:</source>
         <translation>書類:</translation>
     </message>
@@ -743,14 +731,6 @@
     <message>
         <source>Job</source>
         <translation>ジョブ</translation>
-    </message>
-    <message>
-        <source>Setting</source>
-        <translation>設定</translation>
-    </message>
-    <message>
-        <source>Value</source>
-        <translation>値</translation>
     </message>
     <message>
         <source>&amp;Help</source>
@@ -771,6 +751,112 @@
     <message>
         <source>The printer cannot be used: %1</source>
         <translation>このプリンタは使用できません: %1</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Print %1</source>
+        <translation>%1 をプリント</translation>
+    </message>
+    <message>
+        <source>Documents to Print</source>
+        <translation>プリントする書類</translation>
+    </message>
+    <message>
+        <source>Show &amp;lp Command…</source>
+        <translation>lp コマンドを表示(&amp;L)…</translation>
+    </message>
+    <message>
+        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
+        <translation>このプリンタは CUPS キューのない PPD ファイルです。代わりに、これらの設定でプリントするコマンドを表示します。</translation>
+    </message>
+    <message>
+        <source>Add the documents to print first.</source>
+        <translation>先にプリントする書類を追加してください。</translation>
+    </message>
+    <message>
+        <source>%1 set to %2</source>
+        <translation>%1 を %2 に変更</translation>
+    </message>
+    <message>
+        <source>To resolve a conflict, %1.</source>
+        <translation>競合を解決するため、%1しました。</translation>
+    </message>
+    <message>
+        <source>, </source>
+        <translation>、</translation>
+    </message>
+    <message>
+        <source>the settings of %1 are not complete</source>
+        <translation>%1 の設定が完了していません</translation>
+    </message>
+    <message>
+        <source>Not printed: %1</source>
+        <translation>プリントしませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The job was not printed: %1</source>
+        <translation>ジョブはプリントされませんでした: %1</translation>
+    </message>
+    <message>
+        <source>there is no document to print</source>
+        <translation>プリントする書類がありません</translation>
+    </message>
+    <message>
+        <source>%1: the folder cannot be made</source>
+        <translation>%1: フォルダを作成できません</translation>
+    </message>
+    <message>
+        <source>%1 cannot be written</source>
+        <translation>%1 に書き込めません</translation>
+    </message>
+</context>
+<context>
+    <name>PrintPanelsIntegration</name>
+    <message>
+        <source>the printer is not a CUPS queue and no PPD file was given</source>
+        <translation>プリンタは CUPS キューではなく、PPD ファイルも指定されていません</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>no printer was opened</source>
+        <translation>プリンタが開かれていません</translation>
+    </message>
+    <message>
+        <source>no spool file can be made: %1</source>
+        <translation>スプールファイルを作成できません: %1</translation>
+    </message>
+    <message>
+        <source>applyToPrinter() was not called</source>
+        <translation>applyToPrinter() が呼び出されていません</translation>
+    </message>
+    <message>
+        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
+        <translation>プリンタは CUPS キューのない PPD ファイルです。何も送信されませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>PrinterPresetBar</name>
+    <message>
+        <source>Print&amp;er:</source>
+        <translation>プリンタ(&amp;E):</translation>
+    </message>
+    <message>
+        <source>Prese&amp;ts:</source>
+        <translation>プリセット(&amp;T):</translation>
+    </message>
+    <message>
+        <source>&amp;Save As…</source>
+        <translation>別名で保存(&amp;S)…</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>削除(&amp;D)</translation>
     </message>
     <message>
         <source>%1 (sample PPD file)</source>
@@ -849,28 +935,95 @@
         <translation>プリセット「%1」を削除しました。</translation>
     </message>
     <message>
-        <source>None</source>
-        <translation>なし</translation>
+        <source>%1 — %2</source>
+        <translation>%1 — %2</translation>
     </message>
     <message>
-        <source>Print %1</source>
-        <translation>%1 をプリント</translation>
+        <source>%1 — %2, %3</source>
+        <translation>%1 — %2、%3</translation>
     </message>
     <message>
-        <source>Documents to Print</source>
-        <translation>プリントする書類</translation>
+        <source>Make and model: %1</source>
+        <translation>メーカーとモデル: %1</translation>
     </message>
     <message>
-        <source>Show &amp;lp Command…</source>
-        <translation>lp コマンドを表示(&amp;L)…</translation>
+        <source>Location: %1</source>
+        <translation>場所: %1</translation>
     </message>
     <message>
-        <source>This printer is a PPD file without a CUPS queue: the command that prints with these settings is shown instead.</source>
-        <translation>このプリンタは CUPS キューのない PPD ファイルです。代わりに、これらの設定でプリントするコマンドを表示します。</translation>
+        <source>State: %1</source>
+        <translation>状態: %1</translation>
     </message>
     <message>
-        <source>Add the documents to print first.</source>
-        <translation>先にプリントする書類を追加してください。</translation>
+        <source>Your default printer</source>
+        <translation>既定のプリンター</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>停止中</translation>
+    </message>
+    <message>
+        <source>printing</source>
+        <translation>印刷中</translation>
+    </message>
+    <message>
+        <source>idle</source>
+        <translation>待機中</translation>
+    </message>
+    <message>
+        <source>%1, not accepting jobs</source>
+        <translation>%1、ジョブを受け付けていません</translation>
+    </message>
+    <message>
+        <source>Defa&amp;ults</source>
+        <translation>既定(&amp;U)</translation>
+    </message>
+    <message>
+        <source>Use as My Defaults for This Printer</source>
+        <translation>このプリンターの既定の設定にする</translation>
+    </message>
+    <message>
+        <source>Every application's print dialog and lp start from these settings on this printer.</source>
+        <translation>このプリンターでは、すべてのアプリケーションの印刷ダイアログと lp がこの設定から始まります。</translation>
+    </message>
+    <message>
+        <source>Make This My Default Printer</source>
+        <translation>既定のプリンターにする</translation>
+    </message>
+    <message>
+        <source>Make This Preset My Default Printer</source>
+        <translation>このプリセットを既定のプリンターにする</translation>
+    </message>
+    <message>
+        <source>A preset named &quot;%1&quot; exists. Replace it?</source>
+        <translation>プリセット「%1」はすでにあります。置き換えますか?</translation>
+    </message>
+    <message>
+        <source>The defaults cannot be saved: %1</source>
+        <translation>既定の設定を保存できません: %1</translation>
+    </message>
+    <message>
+        <source>These settings are now your defaults for %1. Passwords and PINs are not kept.</source>
+        <translation>これらの設定が %1 の既定になりました。パスワードと PIN は保存されません。</translation>
+    </message>
+    <message>
+        <source>The default printer cannot be set: %1</source>
+        <translation>既定のプリンターを設定できません: %1</translation>
+    </message>
+    <message>
+        <source>%1 is now your default printer.</source>
+        <translation>%1 が既定のプリンターになりました。</translation>
+    </message>
+</context>
+<context>
+    <name>PanelStack</name>
+    <message>
+        <source>Setting</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>値</translation>
     </message>
     <message>
         <source>Summary</source>
@@ -893,67 +1046,8 @@
         <translation>(非表示)</translation>
     </message>
     <message>
-        <source>%1 set to %2</source>
-        <translation>%1 を %2 に変更</translation>
-    </message>
-    <message>
-        <source>To resolve a conflict, %1.</source>
-        <translation>競合を解決するため、%1しました。</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
-    </message>
-    <message>
-        <source>the settings of %1 are not complete</source>
-        <translation>%1 の設定が完了していません</translation>
-    </message>
-    <message>
-        <source>Not printed: %1</source>
-        <translation>プリントしませんでした: %1</translation>
-    </message>
-    <message>
-        <source>The job was not printed: %1</source>
-        <translation>ジョブはプリントされませんでした: %1</translation>
-    </message>
-    <message>
-        <source>there is no document to print</source>
-        <translation>プリントする書類がありません</translation>
-    </message>
-    <message>
-        <source>%1: the folder cannot be made</source>
-        <translation>%1: フォルダを作成できません</translation>
-    </message>
-    <message>
-        <source>%1 cannot be written</source>
-        <translation>%1 に書き込めません</translation>
-    </message>
-</context>
-<context>
-    <name>PrintPanelsIntegration</name>
-    <message>
-        <source>the printer is not a CUPS queue and no PPD file was given</source>
-        <translation>プリンタは CUPS キューではなく、PPD ファイルも指定されていません</translation>
-    </message>
-    <message>
-        <source>OK</source>
-        <translation>OK</translation>
-    </message>
-    <message>
-        <source>no printer was opened</source>
-        <translation>プリンタが開かれていません</translation>
-    </message>
-    <message>
-        <source>no spool file can be made: %1</source>
-        <translation>スプールファイルを作成できません: %1</translation>
-    </message>
-    <message>
-        <source>applyToPrinter() was not called</source>
-        <translation>applyToPrinter() が呼び出されていません</translation>
-    </message>
-    <message>
-        <source>the printer is a PPD file without a CUPS queue: nothing was sent</source>
-        <translation>プリンタは CUPS キューのない PPD ファイルです。何も送信されませんでした</translation>
+        <source>Job</source>
+        <translation>ジョブ</translation>
     </message>
 </context>
 <context>

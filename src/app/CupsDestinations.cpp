@@ -13,7 +13,12 @@ QList<CupsDestinations::Queue> CupsDestinations::queues()
             continue;
         Queue q;
         q.name = QString::fromUtf8(dests[i].name);
-        q.description = QString::fromUtf8(cupsGetOption("printer-info", dests[i].num_options, dests[i].options));
+        auto option = [&](const char* name) { return QString::fromUtf8(cupsGetOption(name, dests[i].num_options, dests[i].options)); };
+        q.description = option("printer-info");
+        q.location = option("printer-location");
+        q.makeAndModel = option("printer-make-and-model");
+        q.state = option("printer-state").toInt();
+        q.accepting = option("printer-is-accepting-jobs") != QLatin1String("false");
         q.isDefault = dests[i].is_default;
         out.append(q);
     }

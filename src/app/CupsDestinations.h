@@ -10,11 +10,16 @@ public:
     struct Queue {
         QString name;
         QString description;  // printer-info, or empty
+        QString location;     // printer-location, or empty
+        QString makeAndModel; // printer-make-and-model, or empty
+        int state = 3;        // printer-state: 3 idle, 4 processing, 5 stopped
+        bool accepting = true;  // printer-is-accepting-jobs
         bool isDefault = false;
     };
 
-    // Every queue of the current server, in the server's order. Instances
-    // (presets) are not queues of their own and are left out.
+    // Every queue of the current server, in the server's order, with what
+    // the server says of its state (one request). Instances (presets) are
+    // not queues of their own and are left out.
     static QList<Queue> queues();
     // The cover pages of a queue (its job-sheets-supported), or, for a PPD
     // file without a queue, the banners installed with CUPS. "none" first.

@@ -1,12 +1,13 @@
 #include "JobControls.h"
 
 #include "PMPageFormat.h"
+#include "PageRangeValidator.h"
 #include "PMPrintSettings.h"
 #include "PrintDialogHost.h"
 #include "ui_JobControls.h"
 
 #include <QEvent>
-#include <QRegularExpressionValidator>
+#include <QRegularExpression>
 #include <QScopedValueRollback>
 #include <cups/ppd.h>
 
@@ -24,16 +25,14 @@ JobControls::JobControls(QWidget* parent)
     : QWidget(parent), ui(std::make_unique<Ui::JobControls>())
 {
     ui->setupUi(this);
-    // Page ranges as CUPS takes them: "1-3,5,8-" (blanks are allowed while typing).
-    ui->pageRangeEdit->setValidator(new QRegularExpressionValidator(
-        QRegularExpression(QStringLiteral(R"(\s*[1-9]\d*\s*(-\s*([1-9]\d*)?\s*)?(,\s*[1-9]\d*\s*(-\s*([1-9]\d*)?\s*)?)*)")),
-        ui->pageRangeEdit));
+    ui->pageRangeEdit->setValidator(new PageRangeValidator(ui->pageRangeEdit));
     fillFixedChoices();
     setEnabled(false);
 
     connect(ui->copiesSpin, &QSpinBox::valueChanged, this, &JobControls::copiesChanged);
     connect(ui->allPagesRadio, &QRadioButton::toggled, this, &JobControls::pageRangeModeChanged);
     connect(ui->pageRangeEdit, &QLineEdit::textChanged, this, &JobControls::pageRangeEdited);
+    connect(ui->pageRangeEdit, &QLineEdit::editingFinished, this, [this] { markPageRange(!pageRangeValid()); });
     connect(ui->paperSizeCombo, &QComboBox::currentIndexChanged, this, &JobControls::paperSizeChosen);
     connect(ui->orientationCombo, &QComboBox::currentIndexChanged, this, &JobControls::orientationChosen);
     connect(ui->pagesPerSheetCombo, &QComboBox::currentIndexChanged, this, &JobControls::pagesPerSheetChosen);
@@ -138,7 +137,7 @@ void JobControls::syncFromHost()
     if (!ranges.isEmpty()) {
         ui->pageRangeRadio->setChecked(true);
         ui->pageRangeEdit->setText(ranges);
-    } else if (!ui->pageRangeRadio->isChecked() || ui->pageRangeEdit->hasAcceptableInput()) {
+    } else if (pageRangeValid()) {
         // No range is set (a range still being typed stays as it is).
         ui->allPagesRadio->setChecked(true);
     }
@@ -197,6 +196,8 @@ void JobControls::pageRangeModeChanged()
 {
     const bool range = ui->pageRangeRadio->isChecked();
     ui->pageRangeEdit->setEnabled(range);
+    if (!range)
+        markPageRange(false);
     if (m_syncing)
         return;
     if (range) {
@@ -211,10 +212,31 @@ void JobControls::pageRangeEdited()
 {
     if (m_syncing || !ui->pageRangeRadio->isChecked())
         return;
-    // Only a complete range is written; while typing, all pages are printed.
-    QString text = ui->pageRangeEdit->text();
-    text.remove(QLatin1Char(' '));
-    writeSetting(kPageRanges, ui->pageRangeEdit->hasAcceptableInput() && !text.isEmpty() ? text : QString());
+    // Only a valid range is written; checkInput() keeps an invalid one from printing.
+    if (pageRangeValid())
+        markPageRange(false);
+    writeSetting(kPageRanges, pageRangeValid() ? PageRangeValidator::normalized(ui->pageRangeEdit->text()) : QString());
+}
+
+bool JobControls::pageRangeValid() const
+{
+    return !ui->pageRangeRadio->isChecked() || ui->pageRangeEdit->hasAcceptableInput();
+}
+
+void JobControls::markPageRange(bool invalid)
+{
+    ui->pageRangeEdit->setProperty("invalidInput", invalid);
+    ui->pageRangeEdit->setStyleSheet(invalid ? QStringLiteral("QLineEdit { border: 2px solid #c62828; }") : QString());
+}
+
+bool JobControls::checkInput(QString* error)
+{
+    if (pageRangeValid())
+        return true;
+    markPageRange(true);
+    ui->pageRangeEdit->setFocus();
+    *error = tr("The page range \"%1\" is not valid: give pages and ranges such as 1-3,5,8-.").arg(ui->pageRangeEdit->text());
+    return false;
 }
 
 void JobControls::paperSizeChosen(int index)

@@ -30,6 +30,9 @@ public:
     // The settings the user changed here, as lp -o options, so that they can
     // be carried to another printer.
     QStringList chosenOptions() const;
+    // Whether the settings can be printed: false, with the page range field
+    // marked and focused and *error set, while the range typed is not valid.
+    bool checkInput(QString* error);
     // Each control's label and shown value, for the dialog's summary.
     QList<QPair<QString, QString>> summary() const;
 
@@ -50,6 +53,8 @@ private:
     void copiesChanged(int copies);
     void pageRangeModeChanged();
     void pageRangeEdited();
+    bool pageRangeValid() const;  // all pages, or a valid range
+    void markPageRange(bool invalid);
     void paperSizeChosen(int index);
     void orientationChosen(int index);
     void pagesPerSheetChosen(int index);

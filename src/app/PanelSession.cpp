@@ -112,11 +112,15 @@ void PanelSession::addPanel(std::shared_ptr<PDEPanel> panel)
     panel->restoreValuesAndReturnError(&ignored);
 }
 
-bool PanelSession::prepareToPrint(QString* refusal)
+bool PanelSession::prepareToPrint(QString* refusal, const std::function<void(PDEPanel*)>& asking)
 {
     for (const auto& p : std::as_const(m_panels)) {
         PDEAlerts::clearLastAlertText();
-        if (p->respondsToShouldPrint() && !p->shouldPrint()) {
+        if (!p->respondsToShouldPrint())
+            continue;
+        if (asking)
+            asking(p.get());
+        if (!p->shouldPrint()) {
             if (refusal) {
                 *refusal = PDEAlerts::lastAlertText();
                 if (refusal->isEmpty())
@@ -125,9 +129,20 @@ bool PanelSession::prepareToPrint(QString* refusal)
             return false;
         }
     }
+    // A panel whose entries are not valid refuses to save: nothing is printed.
     for (const auto& p : std::as_const(m_panels)) {
-        QString ignored;
-        p->saveValuesAndReturnError(&ignored);
+        PDEAlerts::clearLastAlertText();
+        if (asking)
+            asking(p.get());
+        QString error;
+        if (!p->saveValuesAndReturnError(&error)) {
+            if (refusal) {
+                *refusal = PDEAlerts::lastAlertText();
+                if (refusal->isEmpty())
+                    *refusal = error.isEmpty() ? QStringLiteral("the settings of the %1 panel are not complete").arg(p->panelName()) : error;
+            }
+            return false;
+        }
     }
     QCoreApplication::sendPostedEvents();
     return true;

@@ -5,6 +5,7 @@
 #include <QList>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 class MRPDE_MACFirstEventHandler;
@@ -45,9 +46,11 @@ public:
     // Adds a panel after the plug-in's (a dialog's own panel): it is restored
     // now, told about resolution changes and asked with the others when printing.
     void addPanel(std::shared_ptr<PDEPanel> panel);
-    // Every panel's print checks (where it has them) and save; false with the
-    // refusing panel's alert text in *refusal when one refuses.
-    bool prepareToPrint(QString* refusal);
+    // Every panel's print checks (where it has them), then every panel's save;
+    // false with the refusing panel's alert text in *refusal when one refuses
+    // either. asking, when
+    // given, is told each panel before its checks (which may show an alert).
+    bool prepareToPrint(QString* refusal, const std::function<void(PDEPanel*)>& asking = {});
     // {"panels":[...]} for every panel in order.
     QJsonObject describe();
     // The path of the built-in sample printer's PPD, copied out of the program.

@@ -1,14 +1,12 @@
 #include "PresetStore.h"
 
+#include "LpoptionsFile.h"
 #include "PDESecrets.h"
 
 #include <QFile>
 #include <QMap>
 #include <cups/cups.h>
-#include <cerrno>
-#include <cstring>
 #include <pwd.h>
-#include <sys/stat.h>
 #include <unistd.h>
 
 namespace {
@@ -55,77 +53,10 @@ PrintDialogHost::OptionList jobOptionsOf(const cups_dest_t* dest)
     return out;
 }
 
-// Takes every secret out of a destination's options.
-void removeSecrets(cups_dest_t* dest)
-{
-    for (int i = dest->num_options - 1; i >= 0; --i) {
-        if (PDESecrets::isSecretKey(QString::fromUtf8(dest->options[i].name))) {
-            const QByteArray name = dest->options[i].name;
-            dest->num_options = cupsRemoveOption(name.constData(), dest->num_options, &dest->options);
-        }
-    }
-}
-
-struct FileStamp {
-    bool exists = false;
-    ino_t inode = 0;
-    struct timespec mtime = {};
-    off_t size = 0;
-    bool operator==(const FileStamp& o) const
-    {
-        return exists == o.exists && inode == o.inode && mtime.tv_sec == o.mtime.tv_sec && mtime.tv_nsec == o.mtime.tv_nsec
-               && size == o.size;
-    }
-};
-
-FileStamp stampOf(const QString& path)
-{
-    FileStamp s;
-    struct stat st;
-    if (::stat(QFile::encodeName(path).constData(), &st) == 0) {
-        s.exists = true;
-        s.inode = st.st_ino;
-        s.mtime = st.st_mtim;
-        s.size = st.st_size;
-    }
-    return s;
-}
-
 QString systemLpoptionsPath()
 {
     const QString root = qEnvironmentVariable("CUPS_SERVERROOT");
     return (root.isEmpty() ? QStringLiteral("/etc/cups") : root) + QStringLiteral("/lpoptions");
-}
-
-// Writes the destinations with cupsSetDests2. The file is created readable by
-// its owner only; an existing file that was written is set to 0600 after.
-bool writeDests(Dests& d, QString* error)
-{
-    for (int i = 0; i < d.count; ++i)
-        removeSecrets(d.dests + i);
-    // libcups picks the file (the user's, or the system's for root on some
-    // versions): whichever of the two changed is the one written.
-    const QStringList candidates{PresetStore::lpoptionsPath(), systemLpoptionsPath()};
-    QList<FileStamp> before;
-    for (const QString& c : candidates)
-        before << stampOf(c);
-    const mode_t oldMask = ::umask(077);
-    const int status = cupsSetDests2(CUPS_HTTP_DEFAULT, d.count, d.dests);
-    ::umask(oldMask);
-    bool ok = status == 0;
-    for (qsizetype i = 0; i < candidates.size(); ++i) {
-        if (stampOf(candidates[i]) == before[i] || !stampOf(candidates[i]).exists)
-            continue;
-        if (::chmod(QFile::encodeName(candidates[i]).constData(), S_IRUSR | S_IWUSR) != 0 && ok) {
-            ok = false;
-            if (error)
-                *error = QStringLiteral("%1: cannot be made private: %2").arg(candidates[i], QString::fromLocal8Bit(strerror(errno)));
-            return false;
-        }
-    }
-    if (!ok && error)
-        *error = QStringLiteral("the presets cannot be written: %1").arg(QString::fromUtf8(cupsLastErrorString()));
-    return ok;
 }
 }
 
@@ -222,51 +153,78 @@ bool PresetStore::load(const QString& name, PrintDialogHost::OptionList* options
     return optionsOf(name, options, error);
 }
 
+QString PresetStore::existingName(const QString& name) const
+{
+    for (const QString& n : names())
+        if (n.compare(name, Qt::CaseInsensitive) == 0)
+            return n;
+    return QString();
+}
+
+bool PresetStore::change(const std::function<bool(LpoptionsFile&, QString*)>& edit, QString* error)
+{
+    useServer();
+    // Without the queue (an unreachable server, a queue that went away)
+    // nothing is written.
+    if (!queueKnown(Dests(), m_queue, error))
+        return false;
+    LpoptionsFile file(lpoptionsPath());
+    return file.read(error) && edit(file, error) && file.write(error);
+}
+
 bool PresetStore::save(const QString& name, const PrintDialogHost::OptionList& options, QString* error)
 {
     if (!isValidName(name, error))
         return false;
-    useServer();
-    Dests d;
-    const QByteArray queue = m_queue.toUtf8();
-    const QByteArray instance = name.toUtf8();
-    // Without the queue (an unreachable server, a queue that went away)
-    // nothing is written: the file would lose the entries of every queue.
-    if (!queueKnown(d, m_queue, error))
+    // A preset saved again starts afresh from the queue's options, the given ones on top.
+    PrintDialogHost::OptionList start;
+    if (!savedOptions(&start, error))
         return false;
-    // A preset saved again starts afresh from the queue's options.
-    if (d.find(queue, instance))
-        d.count = cupsRemoveDest(queue.constData(), instance.constData(), d.count, &d.dests);
-    d.count = cupsAddDest(queue.constData(), instance.constData(), d.count, &d.dests);
-    cups_dest_t* dest = d.find(queue, instance);
-    if (!dest) {
-        if (error)
-            *error = QStringLiteral("the preset \"%1\" cannot be made").arg(name);
+    QMap<QString, QString> merged;
+    for (const auto& [key, value] : start + options)
+        if (!PDESecrets::isSecretKey(key) && !isPrinterAttribute(key))
+            merged.insert(key, value);
+    PrintDialogHost::OptionList sorted;
+    for (auto it = merged.cbegin(); it != merged.cend(); ++it)
+        sorted.append({it.key(), it.value()});
+    return change([&](LpoptionsFile& file, QString*) {
+        // "draft" replaces "Draft": CUPS tells instances apart without regard to case.
+        file.setDest(m_queue, name, sorted);
+        return true;
+    }, error);
+}
+
+bool PresetStore::setQueueDefaults(const PrintDialogHost::OptionList& options, QString* error)
+{
+    PrintDialogHost::OptionList kept;
+    for (const auto& [key, value] : options)
+        if (!PDESecrets::isSecretKey(key) && !isPrinterAttribute(key))
+            kept.append({key, value});
+    return change([&](LpoptionsFile& file, QString*) {
+        file.setDest(m_queue, QString(), kept);
+        return true;
+    }, error);
+}
+
+bool PresetStore::setDefaultDestination(const QString& name, QString* error)
+{
+    if (!name.isEmpty() && !isValidName(name, error))
         return false;
-    }
-    for (const auto& [key, value] : options) {
-        if (PDESecrets::isSecretKey(key) || isPrinterAttribute(key))
-            continue;
-        dest->num_options = cupsAddOption(key.toUtf8().constData(), value.toUtf8().constData(), dest->num_options, &dest->options);
-    }
-    return writeDests(d, error);
+    return change([&](LpoptionsFile& file, QString*) {
+        file.setDefault(m_queue, name);
+        return true;
+    }, error);
 }
 
 bool PresetStore::remove(const QString& name, QString* error)
 {
     if (!isValidName(name, error))
         return false;
-    useServer();
-    Dests d;
-    const QByteArray queue = m_queue.toUtf8();
-    const QByteArray instance = name.toUtf8();
-    if (!queueKnown(d, m_queue, error))
+    return change([&](LpoptionsFile& file, QString* why) {
+        if (file.remove(m_queue, name))
+            return true;
+        if (why)
+            *why = QStringLiteral("printer %1 has no preset \"%2\"").arg(m_queue, name);
         return false;
-    if (!d.find(queue, instance)) {
-        if (error)
-            *error = QStringLiteral("printer %1 has no preset \"%2\"").arg(m_queue, name);
-        return false;
-    }
-    d.count = cupsRemoveDest(queue.constData(), instance.constData(), d.count, &d.dests);
-    return writeDests(d, error);
+    }, error);
 }

@@ -2,9 +2,6 @@
 #include "PanelSession.h"
 
 #include <QDialog>
-#include <QPointer>
-#include <QSize>
-#include <QTemporaryDir>
 #include <functional>
 #include <memory>
 
@@ -13,7 +10,6 @@ class PrintDialogWindow;
 }
 class PDEBundle;
 class PDEPanel;
-class QListWidgetItem;
 
 // The print dialog: a printer (a CUPS queue or a PPD file), its presets, the
 // documents, the job settings every print dialog has, and the plug-in's
@@ -27,8 +23,8 @@ public:
     explicit PrintDialogWindow(QWidget* parent = nullptr);
     ~PrintDialogWindow() override;
 
-    // Opens the dialog on a queue or a PPD file (the sample printer when
-    // neither is given), replacing the current printer. False, with *error
+    // Opens the dialog on a queue or a PPD file (the printer PanelSession
+    // picks when neither is given), replacing the current printer. False, with *error
     // set and the current printer kept, when it cannot be opened.
     bool openSession(const PanelSession::Options& options, QString* error);
     PanelSession* session() const { return m_session.get(); }
@@ -65,33 +61,21 @@ private:
     // Saves a picture of panel row, one of each tab where the panel has tabs.
     void shootPanel(int row, const std::function<void(const QString&)>& shoot);
 
-    enum EntryKind { QueueEntry, PPDEntry, BrowseEntry };
-
     void retranslate();
-    void fillPrinters();
-    void fillPresets();
-    void rebuildPanelList(int selectRow);
     void updateMainButton();
     void showDocuments();
     void setNotice(const QString& text);
 
-    void printerChosen(int index);
-    void presetChosen(int index);
-    void savePreset();
-    void deletePreset();
     void addDocuments();
     // Opens another printer or preset; carry: the job settings changed here go along.
     bool reopen(const PanelSession::Options& options, bool carry);
+    // The settings a preset keeps: every panel saved, then the job's options.
+    bool currentSettings(PrintDialogHost::OptionList* options, QString* error);
 
-    void panelRowChanged(int row);
-    bool switchTo(int row);
-    void attachView(PDEPanel* panel);
-    void detachView();
-    void fitPanelArea(const QSize& wanted);
-    void panelViewResized();
-    void fillSummary();
-
+    void panelShown();
     void jobSettingChanged(const QString& key);
+    // "To resolve a conflict, OPTION set to CHOICE, ...", or empty.
+    QString conflictText(const PrintDialogHost::OptionList& changes) const;
     void optionsChangedByResolution(const PrintDialogHost::OptionList& changes);
     void helpClicked();
     void printClicked();
@@ -100,18 +84,11 @@ private:
     void showLpCommand();
 
     bool isQueue() const;
-    QString queueName() const;   // the queue without an instance
-    QString presetName() const;  // the instance, or empty
 
     std::unique_ptr<Ui::PrintDialogWindow> ui;
     std::unique_ptr<PanelSession> m_session;
-    PanelSession::Options m_options;
-    QList<std::shared_ptr<PDEPanel>> m_panels;  // as listed
+    PanelSession::Options m_options;  // what the session opened
     QStringList m_documents;
-    QTemporaryDir m_sampleDir;  // sample printers copied out of the program
-    int m_currentRow = -1;
-    QPointer<QWidget> m_shownView;
-    QPointer<QWidget> m_shownViewParent;  // the view's own parent, restored when hidden
-    QPointer<QWidget> m_placeholder;
     int m_submittedJob = 0;
+    PDEPanel* m_askingPanel = nullptr;  // the panel whose print checks run
 };

@@ -74,10 +74,13 @@ void PDEBundle::setLanguage(const QString& language)
         return;
     }
     // The user's languages in order of preference; English when none matches.
-    if (m_translator->load(QLocale(), QStringLiteral("pde"), QStringLiteral("_"), dir))
+    if (m_translator->load(QLocale(), QStringLiteral("pde"), QStringLiteral("_"), dir)) {
         m_language = m_translator->language().section(QLatin1Char('_'), 0, 0);
-    else
+    } else {
+        // The texts are keys: without the English table a user would read them.
         m_language = QStringLiteral("en");
+        m_translator->load(QStringLiteral("pde_en"), dir);
+    }
 }
 
 QString PDEBundle::localizedString(const QString& key, const QString& table) const

@@ -555,15 +555,15 @@ bool PrintDialogHost::approveChoice(const QString& option, const QString& choice
     return true;
 }
 
-QString PrintDialogHost::optionText(const QString& key) const
+QString PrintDialogHost::optionText(ppd_file_t* ppd, const QString& key)
 {
-    const ppd_option_t* o = m_ppd ? ppdFindOption(m_ppd, key.toUtf8().constData()) : nullptr;
+    const ppd_option_t* o = ppd ? ppdFindOption(ppd, key.toUtf8().constData()) : nullptr;
     return o && o->text[0] ? QString::fromUtf8(o->text) : key;
 }
 
-QString PrintDialogHost::choiceText(const QString& key, const QString& choice) const
+QString PrintDialogHost::choiceText(ppd_file_t* ppd, const QString& key, const QString& choice)
 {
-    ppd_option_t* o = m_ppd ? ppdFindOption(m_ppd, key.toUtf8().constData()) : nullptr;
+    ppd_option_t* o = ppd ? ppdFindOption(ppd, key.toUtf8().constData()) : nullptr;
     const ppd_choice_t* c = o ? ppdFindChoice(o, choice.toUtf8().constData()) : nullptr;
     return c && c->text[0] ? QString::fromUtf8(c->text) : choice;
 }
@@ -572,7 +572,7 @@ QString PrintDialogHost::describeChanges(const OptionList& changes) const
 {
     QStringList parts;
     for (const auto& [key, choice] : changes)
-        parts.append(QStringLiteral("%1 set to %2").arg(optionText(key), choiceText(key, choice)));
+        parts.append(QStringLiteral("%1 set to %2").arg(optionText(m_ppd, key), choiceText(m_ppd, key, choice)));
     return parts.join(QStringLiteral(", "));
 }
 

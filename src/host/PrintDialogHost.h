@@ -64,9 +64,10 @@ public:
     // resolved.
     bool approveChoice(const QString& option, const QString& choice, OptionList* changes, QString* error);
 
-    // The user's words for an option and for one of its choices.
-    QString optionText(const QString& key) const;
-    QString choiceText(const QString& key, const QString& choice) const;
+    // The words a PPD gives an option and one of its choices, for the user;
+    // the keyword itself where the PPD has none.
+    static QString optionText(ppd_file_s* ppd, const QString& key);
+    static QString choiceText(ppd_file_s* ppd, const QString& key, const QString& choice);
     // "2-Sided Printing set to Off, Media Type set to Plain".
     QString describeChanges(const OptionList& changes) const;
 

@@ -8,6 +8,8 @@
 #include "PrintDialogWindow.h"
 #include "PrintJob.h"
 
+#include <QComboBox>
+#include <QCoreApplication>
 #include <QDir>
 #include <QMessageBox>
 #include <QPointer>
@@ -22,6 +24,7 @@ struct PrintPanelsIntegration::Private {
     QString queue;         // where the job goes
     bool fromPPD = false;  // the panels were opened on a PPD file
     QPointer<QPrintDialog> dialog;
+    QPointer<QComboBox> printers;  // Qt's printer list in the dialog
     QList<QPointer<PanelTab>> tabs;
     OptionList dialogOptions;  // what Qt's dialog chose (copies, collation)
     std::unique_ptr<QTemporaryFile> spool;
@@ -111,6 +114,13 @@ bool PrintPanelsIntegration::addPanelsToDialog(QPrintDialog* dialog, QPrinter* p
     }
     dialog->setOptionTabs(pages);
     d->dialog = dialog;
+    // Qt's own printer list: the panels follow the printer chosen in it.
+    auto* printers = dialog->findChild<QComboBox*>(QStringLiteral("printers"));
+    if (printers && printers != d->printers) {
+        d->printers = printers;
+        // An entry that is no queue (printing to a file) leaves the panels as they are.
+        connect(printers, &QComboBox::currentIndexChanged, this, [this, printers](int index) { switchToPrinter(printers->itemText(index)); });
+    }
     // The panels' alerts appear over the dialog.
     PDEAlerts::setHandler([dialog = d->dialog](const PDEAlerts::Alert& alert) {
         QMessageBox box(alert.informational ? QMessageBox::Information : QMessageBox::Warning,
@@ -178,38 +188,10 @@ bool PrintPanelsIntegration::applyToPrinter(QPrinter* printer)
     }
     d->toFile = printer->outputFormat() == QPrinter::PdfFormat && !printer->outputFileName().isEmpty();
     const QString chosen = printer->outputFormat() == QPrinter::NativeFormat ? printer->printerName() : QString();
-    if (!d->toFile && !chosen.isEmpty() && chosen != d->queue) {
-        if (d->fromPPD) {
-            d->queue = chosen;
-        } else {
-            // Another queue was chosen in Qt's dialog: the panels' settings go
-            // to a session on that queue, as far as its PPD takes them.
-            if (!prepareToPrint())
-                return false;
-            const OptionList carried = d->session->host().jobOptions();
-            PanelSession::Options options;
-            options.printer = chosen;
-            std::unique_ptr<PanelSession> probe = PanelSession::open(options, &d->error);
-            if (!probe)
-                return false;
-            ppd_file_t* ppd = probe->host().ppd();
-            for (const auto& [key, value] : carried) {
-                ppd_option_t* o = ppd ? ppdFindOption(ppd, key.toUtf8().constData()) : nullptr;
-                if (o && o->num_choices > 0 && !ppdFindChoice(o, value.toUtf8().constData()))
-                    continue;
-                options.optionStrings.append(LpCommand::optionArgument(key, value));
-            }
-            probe.reset();
-            std::unique_ptr<PanelSession> session = PanelSession::open(options, &d->error);
-            if (!session)
-                return false;
-            d->adopt(std::move(session), this);
-            d->queue = chosen;
-            // A dialog shown again shows the new printer's panels.
-            if (QPrintDialog* dialog = d->dialog)
-                addPanelsToDialog(dialog, printer);
-        }
-    }
+    // Another queue chosen in Qt's dialog without its list telling (set by the
+    // application): the panels follow now.
+    if (!d->toFile && !chosen.isEmpty() && chosen != d->queue && !switchToPrinter(chosen))
+        return false;
     if (!prepareToPrint())
         return false;
     if (d->toFile)
@@ -261,6 +243,52 @@ int PrintPanelsIntegration::submitJob(const QString& title)
     d->spool.reset();
     d->error.clear();
     return job.jobId();
+}
+
+bool PrintPanelsIntegration::switchToPrinter(const QString& queue)
+{
+    if (!d->session || queue == d->queue)
+        return true;
+    if (d->fromPPD) {
+        // The panels are the PPD file's: only where the job goes changes.
+        d->queue = queue;
+        return true;
+    }
+    // The choices made so far, as the panels save them.
+    for (const auto& p : d->session->panels()) {
+        QString ignored;
+        p->saveValuesAndReturnError(&ignored);
+    }
+    QCoreApplication::sendPostedEvents();
+    const OptionList carried = d->session->host().jobOptions();
+    ppd_file_t* oldPPD = d->session->host().ppd();
+
+    // Each choice goes along where the new printer offers it and approves it;
+    // an option only the old printer has stays behind.
+    PanelSession::Options options;
+    options.printer = queue;
+    std::unique_ptr<PrintDialogHost> probe = PrintDialogHost::openPrinter(queue, QString(), &d->error);
+    if (!probe)
+        return false;
+    ppd_file_t* ppd = probe->ppd();
+    for (const auto& [key, value] : carried) {
+        const QByteArray k = key.toUtf8();
+        ppd_option_t* o = ppd ? ppdFindOption(ppd, k.constData()) : nullptr;
+        const bool wasPPDOption = oldPPD && ppdFindOption(oldPPD, k.constData());
+        if ((wasPPDOption && !o) || (o && (!ppdFindChoice(o, value.toUtf8().constData()) || !probe->willChangePPDOptionKeyValue(key, value))))
+            continue;
+        options.optionStrings.append(LpCommand::optionArgument(key, value));
+    }
+    probe.reset();
+    std::unique_ptr<PanelSession> session = PanelSession::open(options, &d->error);
+    if (!session)
+        return false;
+    d->adopt(std::move(session), this);
+    d->queue = queue;
+    // A dialog shows the new printer's panels.
+    if (QPrintDialog* dialog = d->dialog)
+        addPanelsToDialog(dialog, nullptr);
+    return true;
 }
 
 QString PrintPanelsIntegration::queue() const

@@ -47,7 +47,10 @@ public:
     // A panel of the application's own, shown after the plug-in's; call it
     // after openPrinter() and before addPanelsToDialog().
     void addPanel(std::shared_ptr<PDEPanel> panel);
-    // Adds one tab per panel to the dialog's options (setOptionTabs).
+    // Adds one tab per panel to the dialog's options (setOptionTabs). When
+    // the user chooses another printer in the dialog, the tabs are rebuilt
+    // for it, the choices made carried where it offers them (the panels of
+    // addPanel() are the first printer's only).
     bool addPanelsToDialog(QPrintDialog* dialog, QPrinter* printer, const QString& ppdFile = QString());
     // The names of the panels, in the tabs' order.
     QStringList panelNames() const;
@@ -71,6 +74,9 @@ public:
     QString errorString() const;
 
 private:
+    // The panels of another queue, carrying the choices made where it offers them.
+    bool switchToPrinter(const QString& queue);
+
     struct Private;
     std::unique_ptr<Private> d;
 };
