@@ -956,4 +956,19 @@
         <translation>der Drucker ist eine PPD-Datei ohne CUPS-Warteschlange: es wurde nichts gesendet</translation>
     </message>
 </context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>Manueller beidseitiger Druck</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>Sichere Freigabe</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>Benutzer-ID</translation>
+    </message>
+</context>
 </TS>

@@ -956,4 +956,19 @@
         <translation>the printer is a PPD file without a CUPS queue: nothing was sent</translation>
     </message>
 </context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>Manual 2-Sided Printing</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>Secure Release</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>User ID</translation>
+    </message>
+</context>
 </TS>

@@ -956,4 +956,19 @@
         <translation>l’imprimante est un fichier PPD sans file d’attente CUPS : rien n’a été envoyé</translation>
     </message>
 </context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>Recto verso manuel</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>Libération sécurisée</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>ID utilisateur</translation>
+    </message>
+</context>
 </TS>

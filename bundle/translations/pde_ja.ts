@@ -956,4 +956,19 @@
         <translation>プリンタは CUPS キューのない PPD ファイルです。何も送信されませんでした</translation>
     </message>
 </context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>手動両面印刷</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>セキュアリリース</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>ユーザー ID</translation>
+    </message>
+</context>
 </TS>
