@@ -4,6 +4,8 @@
 #include "PDELog.h"
 #include "ui_ManualDuplexPDE.h"
 
+#include <QApplication>
+
 MRManualDuplexController::MRManualDuplexController(MRManualDuplexPDE* owner, Ui::ManualDuplexPDE* ui)
     : ManualDuplexPDEPDEObject(owner), m_ui(ui)
 {
@@ -45,8 +47,9 @@ void MRManualDuplexController::showSelectedManualDuplexSettings(int index)
         if (index >= 0 && index <= 2)
             MRStandalonePDE::setLabelActive(tip.label, index != 0);
         tip.label->setText(panel->getLocalizationWithKey(QString::fromLatin1(tip.key)));
+        // The system font a step smaller than the dialog's own (12 against 13 points).
         QFont font = tip.label->font();
-        font.setPointSize(12);
+        font.setPointSizeF(QApplication::font().pointSizeF() * 12.0 / 13.0);
         tip.label->setFont(font);
     }
 

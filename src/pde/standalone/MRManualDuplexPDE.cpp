@@ -238,6 +238,8 @@ bool MRManualDuplexPDE::willShow()
     initializeUI();
     updateUI();
     m_controller->showSelectedManualDuplexSettings(m_ui->ManualDuplexPopup->currentIndex());
+    // The view takes the size its texts now need.
+    m_pdeView->adjustSize();
     return true;
 }
 
