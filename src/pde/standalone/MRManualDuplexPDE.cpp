@@ -77,6 +77,8 @@ QWidget* MRManualDuplexPDE::panelView()
     // cannot shows them for good, without the button (the click then only
     // logs that the view stays as it is).
     setDisclosureViews(view, m_ui->basicView, m_ui->advancedButton, m_ui->manualduplexadvancedView);
+    QToolButton* button = m_ui->advancedButton;
+    connect(button, &QToolButton::toggled, button, [button](bool open) { button->setArrowType(open ? Qt::DownArrow : Qt::RightArrow); });
     if (canResizeView()) {
         _PDELog(this, QStringLiteral("canResizeView:1"));
         showAdvanced(false);
