@@ -516,11 +516,11 @@
     </message>
     <message>
         <source>PrintingTipDescription</source>
-        <translation>Beim manuellen Broschürendruck bedruckt der Drucker zuerst eine Seite jedes Blatts; danach wenden Sie den Stapel und legen ihn erneut ein.</translation>
+        <translation>Wenn beide Seiten von Hand bedruckt werden (manueller beidseitiger Druck, manuelle Broschüre), bedruckt der Drucker zuerst eine Seite jedes Blatts; danach wenden Sie den Stapel und legen ihn erneut ein.</translation>
     </message>
     <message>
         <source>PrintingTipCoverPage</source>
-        <translation>Verwenden Sie beim manuellen Broschürendruck kein Deckblatt.</translation>
+        <translation>Verwenden Sie kein Deckblatt, wenn beide Seiten von Hand bedruckt werden.</translation>
     </message>
     <message>
         <source>PrintingTipStep1</source>
@@ -1205,6 +1205,21 @@
     <message>
         <source>Confirm PIN Code:</source>
         <translation>PIN-Code bestätigen:</translation>
+    </message>
+</context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>Manueller beidseitiger Druck</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>Sichere Freigabe</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>Benutzer-ID</translation>
     </message>
 </context>
 </TS>

@@ -516,11 +516,11 @@
     </message>
     <message>
         <source>PrintingTipDescription</source>
-        <translation>With manual booklet printing the printer prints one side of every sheet first; you then turn the stack over and feed it again.</translation>
+        <translation>When both sides are printed by hand (manual 2-sided printing, manual booklets), the printer prints one side of every sheet first; you then turn the stack over and feed it again.</translation>
     </message>
     <message>
         <source>PrintingTipCoverPage</source>
-        <translation>Do not use a cover page with manual booklet printing.</translation>
+        <translation>Do not use a cover page when both sides are printed by hand.</translation>
     </message>
     <message>
         <source>PrintingTipStep1</source>
@@ -1205,6 +1205,21 @@
     <message>
         <source>Confirm PIN Code:</source>
         <translation>Confirm PIN Code:</translation>
+    </message>
+</context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>Manual 2-Sided Printing</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>Secure Release</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>User ID</translation>
     </message>
 </context>
 </TS>

@@ -516,11 +516,11 @@
     </message>
     <message>
         <source>PrintingTipDescription</source>
-        <translation>Pour un livret manuel, l'imprimante imprime d'abord un côté de chaque feuille ; retournez ensuite la pile et remettez-la dans le bac.</translation>
+        <translation>Quand les deux côtés sont imprimés à la main (recto verso manuel, livret manuel), l'imprimante imprime d'abord un côté de chaque feuille ; retournez ensuite la pile et remettez-la dans le bac.</translation>
     </message>
     <message>
         <source>PrintingTipCoverPage</source>
-        <translation>N'utilisez pas de page de garde avec un livret manuel.</translation>
+        <translation>N'utilisez pas de page de garde quand les deux côtés sont imprimés à la main.</translation>
     </message>
     <message>
         <source>PrintingTipStep1</source>
@@ -1205,6 +1205,21 @@
     <message>
         <source>Confirm PIN Code:</source>
         <translation>Confirmer le code PIN :</translation>
+    </message>
+</context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>Recto verso manuel</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>Libération sécurisée</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>ID utilisateur</translation>
     </message>
 </context>
 </TS>

@@ -516,11 +516,11 @@
     </message>
     <message>
         <source>PrintingTipDescription</source>
-        <translation>手動小冊子印刷では、まず各用紙の片面を印刷します。その後、用紙の束を裏返してもう一度セットします。</translation>
+        <translation>手動で両面を印刷する場合（手動両面印刷、手動小冊子印刷）、まず各用紙の片面を印刷します。その後、用紙の束を裏返してもう一度セットします。</translation>
     </message>
     <message>
         <source>PrintingTipCoverPage</source>
-        <translation>手動小冊子印刷ではカバーページを使用しないでください。</translation>
+        <translation>手動で両面を印刷する場合はカバーページを使用しないでください。</translation>
     </message>
     <message>
         <source>PrintingTipStep1</source>
@@ -1205,6 +1205,21 @@
     <message>
         <source>Confirm PIN Code:</source>
         <translation>PIN コードの確認:</translation>
+    </message>
+</context>
+<context>
+    <name>AdvancedOptionPDELocalizable</name>
+    <message>
+        <source>ManualDuplex</source>
+        <translation>手動両面印刷</translation>
+    </message>
+    <message>
+        <source>SecureRelease</source>
+        <translation>セキュアリリース</translation>
+    </message>
+    <message>
+        <source>UserID</source>
+        <translation>ユーザー ID</translation>
     </message>
 </context>
 </TS>

@@ -1,10 +1,12 @@
 #include "PDEPanelFactory.h"
 
 #include "MRAdvancedOptionPDE.h"
+#include "MRManualDuplexPDE.h"
 #include "MRPDE_MACFinishingEH.h"
 #include "MRPDE_MACGraphicsPaperEH.h"
 #include "MRPDE_MACJobHandlingEH.h"
 #include "MRPDESecurityEH.h"
+#include "MRSecureReleasePDE.h"
 
 namespace PDEPanelFactory {
 
@@ -22,9 +24,9 @@ const QList<Generic>& genericPanels()
 const QList<Standalone>& standalonePanels()
 {
     static const QList<Standalone> list{
-        {"MRSecureReleasePDE", nullptr},
+        {"MRSecureReleasePDE", &MRSecureReleasePDE::create},
         {"MRAdvancedOptionPDE", &MRAdvancedOptionPDE::create},
-        {"MRManualDuplexPDE", nullptr},
+        {"MRManualDuplexPDE", &MRManualDuplexPDE::create},
         {"MRSpecialPagePDE", nullptr},
         {"MRManualMarginPDE", nullptr},
     };

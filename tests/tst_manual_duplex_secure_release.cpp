@@ -1,0 +1,230 @@
+// The Manual Duplex and Secure Release panels on real PPDs: the binding
+// picture, the copies and duplex-unit rules, the user ID at print time.
+#include "MRManualDuplexController.h"
+#include "MRManualDuplexPDE.h"
+#include "MRSecureReleasePDE.h"
+#include "PDEBundle.h"
+#include "TestSupport.h"
+#include "ui_ManualDuplexPDE.h"
+#include "ui_SecureReleasePDE.h"
+
+#include <QTest>
+
+namespace {
+// Manual 2-sided printing without a duplex unit option, and the printer's own step pictures.
+const QString kNoUnit = QStringLiteral(R"(*OpenUI *VELManualDuplexOption/Manual 2-Sided Printing: PickOne
+*OrderDependency: 117 AnySetup *VELManualDuplexOption
+*DefaultVELManualDuplexOption: Off
+*VELManualDuplexOption Off/Off: ""
+*VELManualDuplexOption LongEdge/Long-Edge Binding: ""
+*VELManualDuplexOption ShortEdge/Short-Edge Binding: ""
+*CloseUI: *VELManualDuplexOption
+*VELManualDuplexImage1: "%1/images/itdrvM3.png"
+)");
+
+template <class Panel>
+struct Opened {
+    QTemporaryDir dir;
+    std::unique_ptr<PrintDialogHost> host;
+    std::shared_ptr<Panel> panel;
+};
+
+// A host on a sample printer (or "no unit"/"plain" PPDs) with job options, and
+// the panel on it, restored and shown as the dialog does.
+template <class Panel>
+std::unique_ptr<Opened<Panel>> open(const QString& printer, const QString& options = QString())
+{
+    auto o = std::make_unique<Opened<Panel>>();
+    const QString ppd = printer == "no unit" ? TestSupport::writePPD(o->dir, printer, kNoUnit.arg(PDE_SOURCE_BUNDLE_DIR))
+                        : printer == "plain" ? TestSupport::writePPD(o->dir, printer, QString())
+                                             : TestSupport::samplePPD(printer);
+    o->host = TestSupport::openHost(ppd);
+    QString error;
+    if (!options.isEmpty() && !o->host->applyOptions(options, &error))
+        qWarning("%s", qPrintable(error));
+    o->panel = Panel::create(o->host.get(), PDEBundle::embedded());
+    if (o->panel) {
+        o->panel->restoreValuesAndReturnError(nullptr);
+        o->panel->willShow();
+    }
+    return o;
+}
+
+QString marked(const PrintDialogHost& host, const QString& key)
+{
+    for (const auto& [k, v] : host.jobOptions())
+        if (k == key)
+            return v;
+    return QString();
+}
+}
+
+class ManualDuplexSecureReleaseTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void creation_data()
+    {
+        QTest::addColumn<QString>("printer");
+        QTest::addColumn<QStringList>("duplexKeys");  // empty: no panel
+        QTest::addColumn<QStringList>("secureKeys");
+        QTest::newRow("c5500") << "velmora-c5500" << QStringList{"VELManualDuplexOption", "Option2"} << QStringList{"VELSecureReleaseOption"};
+        QTest::newRow("m200") << "velmora-m200" << QStringList{"VELManualDuplexOption", "Option2"} << QStringList{"VELSecureReleaseOption"};
+        QTest::newRow("no duplex unit") << "no unit" << QStringList{"VELManualDuplexOption"} << QStringList();
+        QTest::newRow("neither option") << "plain" << QStringList() << QStringList();
+    }
+    void creation()
+    {
+        QFETCH(QString, printer);
+        QFETCH(QStringList, duplexKeys);
+        QFETCH(QStringList, secureKeys);
+        auto duplex = open<MRManualDuplexPDE>(printer);
+        auto secure = open<MRSecureReleasePDE>(printer);
+        QCOMPARE(duplex->panel ? duplex->panel->supportedPPDOptionKeys() : QStringList(), duplexKeys);
+        QCOMPARE(secure->panel ? secure->panel->supportedPPDOptionKeys() : QStringList(), secureKeys);
+    }
+
+    void bindingPicture_data()
+    {
+        QTest::addColumn<QString>("printer");
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("picture");
+        QTest::addColumn<QString>("firstStep");
+        QTest::newRow("one-sided portrait") << "velmora-m200" << "" << "doubleside_none" << "itdrvM1";
+        QTest::newRow("landscape long edge") << "velmora-m200" << "VELManualDuplexOption=LongEdge orientation-requested=4"
+                                             << "doubleside_landlong" << "itdrvM1";
+        QTest::newRow("reverse portrait off") << "velmora-m200" << "orientation-requested=6" << "doubleside_none_rotate" << "itdrvM1";
+        QTest::newRow("reverse landscape short") << "velmora-c5500" << "Option2=False VELManualDuplexOption=ShortEdge orientation-requested=5"
+                                                 << "doubleside_landshort_rotate" << "itdrvM1";
+        QTest::newRow("printer's own steps") << "no unit" << "VELManualDuplexOption=ShortEdge" << "doubleside_short"
+                                             << PDE_SOURCE_BUNDLE_DIR "/images/itdrvM3.png";
+    }
+    void bindingPicture()
+    {
+        QFETCH(QString, printer);
+        QFETCH(QString, options);
+        auto o = open<MRManualDuplexPDE>(printer, options);
+        Ui::ManualDuplexPDE& u = *o->panel->ui();
+        QTEST(u.ManualDuplexView->property("imageName").toString(), "picture");
+        QVERIFY(!u.ManualDuplexView->pixmap().isNull());
+        QTEST(u.Step1ImageView->property("imageName").toString(), "firstStep");
+        // Only the first of the printer's pictures decides: a missing second one stays empty.
+        QCOMPARE(u.Step2ImageView->property("imageName").toString().isEmpty(), printer == "no unit");
+        const bool black = u.ManualDuplexPopup->currentIndex() != 0;
+        QCOMPARE(u.PrintingTipStep1->palette().color(QPalette::WindowText), black ? QColor(Qt::black) : QColor(Qt::gray));
+    }
+
+    // Every binding picture is in the bundle; other indexes and orientations have none.
+    void bindingPictureNames()
+    {
+        const std::shared_ptr<PDEBundle> bundle = PDEBundle::embedded();
+        QSet<QString> names;
+        for (int index = 0; index < 3; ++index)
+            for (const char* orientation : {"1", "2", "3", "4"})
+                names << MRManualDuplexController::bindingPictureName(index, QString::fromLatin1(orientation));
+        QCOMPARE(names.size(), 12);
+        for (const QString& name : std::as_const(names))
+            QVERIFY2(!bundle->pathForResource(name, QStringLiteral("png")).isEmpty(), qPrintable(name));
+        QVERIFY(MRManualDuplexController::bindingPictureName(3, QStringLiteral("1")).isNull());
+        QVERIFY(MRManualDuplexController::bindingPictureName(1, QStringLiteral("5")).isNull());
+    }
+
+    // The copies rule comes first, the duplex-unit rule after it.
+    void rules_data()
+    {
+        QTest::addColumn<QString>("printer");
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<QString>("laterCopies");  // set after opening, told by the update signal
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QString>("choice");
+        QTest::newRow("no unit, 1 copy") << "no unit" << "VELManualDuplexOption=LongEdge" << "" << true << "LongEdge";
+        QTest::newRow("no unit, 2 copies") << "no unit" << "VELManualDuplexOption=LongEdge copies=2" << "" << false << "Off";
+        QTest::newRow("no unit, 3 copies later") << "no unit" << "VELManualDuplexOption=ShortEdge" << "3" << false << "Off";
+        QTest::newRow("unit absent, 1 copy") << "velmora-m200" << "VELManualDuplexOption=ShortEdge" << "" << true << "ShortEdge";
+        QTest::newRow("unit absent re-enables, 2 copies") << "velmora-m200" << "VELManualDuplexOption=LongEdge copies=2" << "" << true << "Off";
+        QTest::newRow("unit installed") << "velmora-c5500" << "" << "" << false << "Off";
+        QTest::newRow("unit installed keeps the choice") << "velmora-c5500" << "VELManualDuplexOption=LongEdge" << "" << false << "LongEdge";
+    }
+    void rules()
+    {
+        QFETCH(QString, printer);
+        QFETCH(QString, options);
+        QFETCH(QString, laterCopies);
+        QFETCH(QString, choice);
+        auto o = open<MRManualDuplexPDE>(printer, options);
+        if (!laterCopies.isEmpty()) {
+            o->host->printSettings()->setValue(QStringLiteral("copies"), laterCopies);
+            emit o->host->update();
+        }
+        Ui::ManualDuplexPDE& u = *o->panel->ui();
+        QTEST(u.ManualDuplexPopup->isEnabled(), "enabled");
+        QCOMPARE(marked(*o->host, kManualDuplexKey), choice);
+        QCOMPARE(o->panel->manualduplexSelection()->ppdTitle(), choice);
+        QCOMPARE(u.ManualDuplexPopup->currentIndex(), int(o->panel->manualduplexChoices().indexOf(o->panel->manualduplexSelection())));
+        const QVariantMap summary = o->panel->summaryInfo();
+        QCOMPARE(summary.value(o->panel->getLocalizationWithKey(QStringLiteral("ManualDuplex"))).toString(),
+                 o->panel->getLocalizationWithKey(choice));
+    }
+
+    void userID_data()
+    {
+        QTest::addColumn<QString>("printer");
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<int>("pick");  // pop-up item chosen, -1 for none
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<QString>("printed");  // PSSUSERID at print time
+        QTest::newRow("off, nothing given") << "velmora-m200" << "" << -1 << "" << false << "";
+        QTest::newRow("given with the job") << "velmora-m200" << "VELSecureReleaseOption=On PSSUSERID=bob" << -1 << "" << true << "bob";
+        QTest::newRow("held, typed") << "velmora-m200" << "" << 1 << "alice" << true << "alice";
+        QTest::newRow("refused characters") << "velmora-m200" << "" << 1 << "al@c e*" << true << "alce";
+        QTest::newRow("refused 21st character") << "velmora-m200" << "" << 1 << "abcdefghij0123456789XY" << true << "abcdefghij0123456789";
+        QTest::newRow("back to off keeps the ID") << "velmora-m200" << "VELSecureReleaseOption=On PSSUSERID=bob" << 0 << "" << false << "bob";
+        QTest::newRow("kit not installed") << "velmora-c5500" << "VELSecureReleaseOption3=Off" << 1 << "" << false << "";
+    }
+    void userID()
+    {
+        QFETCH(QString, printer);
+        QFETCH(QString, options);
+        QFETCH(int, pick);
+        QFETCH(QString, typed);
+        QFETCH(QString, printed);
+        auto o = open<MRSecureReleasePDE>(printer, options);
+        Ui::SecureReleasePDE& u = *o->panel->ui();
+        if (pick >= 0) {
+            u.PSSPopup->setCurrentIndex(pick);
+            o->panel->changepssOption();
+        }
+        QTest::keyClicks(u.UserIDBox, typed);
+        QTEST(u.UserIDBox->isEnabled(), "enabled");
+        QCOMPARE(u.UserIDBox->text(), printed);
+        QCOMPARE(u.PSSPopup->currentIndex(), marked(*o->host, kSecureReleaseKey) == "On" ? 1 : 0);
+        QVERIFY(o->panel->shouldPrint());
+        // The key is always there at print time, empty when no ID was given.
+        QVERIFY(o->host->printSettings()->contains(kSecureReleaseUserIDKey));
+        QCOMPARE(o->host->printSettings()->value(kSecureReleaseUserIDKey), printed);
+    }
+
+    // Through the plug-in entry, as the command line prints and describes.
+    void headless_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("copies force one-sided") << QStringList{"-o", "VELManualDuplexOption=LongEdge copies=2", "--print-options"}
+                                                << "\nVELManualDuplexOption=Off\n";
+        QTest::newRow("empty user ID") << QStringList{"--print-options"} << "\nPSSUSERID=\n";
+        QTest::newRow("picture described") << QStringList{"-o", "VELManualDuplexOption=LongEdge orientation-requested=4", "--describe"}
+                                           << "\"image\": \"doubleside_landlong\"";
+    }
+    void headless()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(QString, expected);
+        QString out, err;
+        QCOMPARE(TestSupport::runApp(QStringList{"--ppd", TestSupport::samplePPD("velmora-m200")} + args, &out, &err), 0);
+        QVERIFY2(out.contains(expected), qPrintable(err));
+    }
+};
+
+QTEST_MAIN(ManualDuplexSecureReleaseTest)
+#include "tst_manual_duplex_secure_release.moc"
