@@ -1,6 +1,8 @@
 #include "PDEPanelFactory.h"
 
 #include "MRAdvancedOptionPDE.h"
+#include "MRManualMarginPDE.h"
+#include "MRSpecialPagePDE.h"
 #include "MRPDE_MACFinishingEH.h"
 #include "MRPDE_MACGraphicsPaperEH.h"
 #include "MRPDE_MACJobHandlingEH.h"
@@ -25,8 +27,8 @@ const QList<Standalone>& standalonePanels()
         {"MRSecureReleasePDE", nullptr},
         {"MRAdvancedOptionPDE", &MRAdvancedOptionPDE::create},
         {"MRManualDuplexPDE", nullptr},
-        {"MRSpecialPagePDE", nullptr},
-        {"MRManualMarginPDE", nullptr},
+        {"MRSpecialPagePDE", &MRSpecialPagePDE::create},
+        {"MRManualMarginPDE", &MRManualMarginPDE::create},
     };
     return list;
 }
