@@ -138,7 +138,6 @@ QWidget* MRSpecialPagePDE::panelView()
     connect(u.btnUpdate, &QAbstractButton::clicked, this, &MRSpecialPagePDE::actionUpdate);
     connect(u.pbtPageOption, &QComboBox::activated, this, &MRSpecialPagePDE::actionPageOption);
     connect(u.pbtPaperOptionSource, &QComboBox::activated, this, &MRSpecialPagePDE::actionPaperSource);
-    connect(u.pbtPaperOptionType, &QComboBox::activated, this, &MRSpecialPagePDE::actionPaperType);
     connect(u.btnPageCoverFront, &QAbstractButton::clicked, this, &MRSpecialPagePDE::actionPageCoverFront);
     connect(u.btnPageCoverBack, &QAbstractButton::clicked, this, &MRSpecialPagePDE::actionPageCoverBack);
     connect(u.btnPageCoverBoth, &QAbstractButton::clicked, this, &MRSpecialPagePDE::actionPageCoverBoth);
@@ -891,10 +890,6 @@ void MRSpecialPagePDE::actionPageInsertNext()
 void MRSpecialPagePDE::actionPaperSource()
 {
     checkConstraintWithSelection(PDEItemChoice(m_ui->pbtPaperOptionSource, m_ui->pbtPaperOptionSource->currentIndex()));
-}
-
-void MRSpecialPagePDE::actionPaperType()
-{
 }
 
 void MRSpecialPagePDE::actionCoverBlank()

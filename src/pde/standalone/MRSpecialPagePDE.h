@@ -93,8 +93,9 @@ public:
     void actionPageCoverBoth();
     void actionPageInsertFirst();
     void actionPageInsertNext();
+    // A paper source greys out the types it cannot take; the chosen type is
+    // read when an entry is made.
     void actionPaperSource();
-    void actionPaperType();
     void actionCoverBlank();
     void actionCover1Side();
     void actionCover2Side();
