@@ -1222,4 +1222,230 @@
         <translation>Benutzer-ID</translation>
     </message>
 </context>
+<context>
+    <name>ManualMarginPDELocalizable</name>
+    <message>
+        <source>ManualMarginPanelName</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>Margin for</source>
+        <translation>Rand für</translation>
+    </message>
+    <message>
+        <source>VELMarginFor</source>
+        <translation>Rand</translation>
+    </message>
+    <message>
+        <source>VELBindingPosition</source>
+        <translation>Bindeposition</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>Auto Reduction</source>
+        <translation>Seite verkleinern, damit sie passt</translation>
+    </message>
+    <message>
+        <source>Same value for front and back</source>
+        <translation>Gleicher Wert für Vorder- und Rückseite</translation>
+    </message>
+    <message>
+        <source>Front side</source>
+        <translation>Vorderseite</translation>
+    </message>
+    <message>
+        <source>Back side</source>
+        <translation>Rückseite</translation>
+    </message>
+    <message>
+        <source>LeftPosition</source>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>RightPosition</source>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>TopPosition</source>
+        <translation>Oben</translation>
+    </message>
+    <message>
+        <source>BottomPosition</source>
+        <translation>Unten</translation>
+    </message>
+    <message>
+        <source>Concept Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>(0 - 50 mm)</source>
+        <translation>(0 - 50 mm)</translation>
+    </message>
+    <message>
+        <source>(0 - 25 mm)</source>
+        <translation>(0 - 25 mm)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 2.00 inches)</source>
+        <translation>(0.00 - 2.00 Zoll)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 1.00 inches)</source>
+        <translation>(0.00 - 1.00 Zoll)</translation>
+    </message>
+</context>
+<context>
+    <name>SpecialPagePDELocalizable</name>
+    <message>
+        <source>SpecialPagePanelName</source>
+        <translation>Sonderseiten</translation>
+    </message>
+    <message>
+        <source>VELSpecialPage</source>
+        <translation>Sonderseiten</translation>
+    </message>
+    <message>
+        <source>Page Options</source>
+        <translation>Seitenoptionen</translation>
+    </message>
+    <message>
+        <source>Page Type</source>
+        <translation>Seitenart</translation>
+    </message>
+    <message>
+        <source>Paper Options</source>
+        <translation>Papieroptionen</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Zufuhr</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Cover Options</source>
+        <translation>Deckblattoptionen</translation>
+    </message>
+    <message>
+        <source>Double-Sided Printing</source>
+        <translation>Beidseitiger Druck</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+    <message>
+        <source>PageNumberHint</source>
+        <translation>z. B. 2,5-8</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Front Cover</source>
+        <translation>Vorderes Deckblatt</translation>
+    </message>
+    <message>
+        <source>Back Cover</source>
+        <translation>Hinteres Deckblatt</translation>
+    </message>
+    <message>
+        <source>Front and Back Cover</source>
+        <translation>Vorderes und hinteres Deckblatt</translation>
+    </message>
+    <message>
+        <source>Before Page 1</source>
+        <translation>Vor Seite 1</translation>
+    </message>
+    <message>
+        <source>After Page(s)</source>
+        <translation>Nach Seite(n)</translation>
+    </message>
+    <message>
+        <source>After Page %1</source>
+        <translation>Nach Seite %1</translation>
+    </message>
+    <message>
+        <source>Blank or Preprinted</source>
+        <translation>Leer oder vorgedruckt</translation>
+    </message>
+    <message>
+        <source>1-Sided Printed</source>
+        <translation>Einseitig bedruckt</translation>
+    </message>
+    <message>
+        <source>2-Sided Printed</source>
+        <translation>Beidseitig bedruckt</translation>
+    </message>
+    <message>
+        <source>DuplexNone</source>
+        <translation>Einseitig</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>Lange Kante</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>Kurze Kante</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Inserted Sheet</source>
+        <translation>Einlegeblatt</translation>
+    </message>
+    <message>
+        <source>Exception Pages</source>
+        <translation>Ausnahmeseiten</translation>
+    </message>
+    <message>
+        <source>PrintErrorTitle</source>
+        <translation>Keine Sonderseiten</translation>
+    </message>
+    <message>
+        <source>PrintErrorContent</source>
+        <translation>Die Liste der Sonderseiten ist leer. Ohne Sonderseiten drucken?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Ja</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
+    </message>
+</context>
 </TS>

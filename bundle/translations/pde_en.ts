@@ -1222,4 +1222,230 @@
         <translation>User ID</translation>
     </message>
 </context>
+<context>
+    <name>ManualMarginPDELocalizable</name>
+    <message>
+        <source>ManualMarginPanelName</source>
+        <translation>Margin</translation>
+    </message>
+    <message>
+        <source>Margin for</source>
+        <translation>Margin For</translation>
+    </message>
+    <message>
+        <source>VELMarginFor</source>
+        <translation>Margin</translation>
+    </message>
+    <message>
+        <source>VELBindingPosition</source>
+        <translation>Binding Position</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Top</translation>
+    </message>
+    <message>
+        <source>Auto Reduction</source>
+        <translation>Reduce the page to fit</translation>
+    </message>
+    <message>
+        <source>Same value for front and back</source>
+        <translation>Same value for front and back</translation>
+    </message>
+    <message>
+        <source>Front side</source>
+        <translation>Front side</translation>
+    </message>
+    <message>
+        <source>Back side</source>
+        <translation>Back side</translation>
+    </message>
+    <message>
+        <source>LeftPosition</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>RightPosition</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>TopPosition</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>BottomPosition</source>
+        <translation>Down</translation>
+    </message>
+    <message>
+        <source>Concept Preview</source>
+        <translation>Preview</translation>
+    </message>
+    <message>
+        <source>(0 - 50 mm)</source>
+        <translation>(0 - 50 mm)</translation>
+    </message>
+    <message>
+        <source>(0 - 25 mm)</source>
+        <translation>(0 - 25 mm)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 2.00 inches)</source>
+        <translation>(0.00 - 2.00 inches)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 1.00 inches)</source>
+        <translation>(0.00 - 1.00 inches)</translation>
+    </message>
+</context>
+<context>
+    <name>SpecialPagePDELocalizable</name>
+    <message>
+        <source>SpecialPagePanelName</source>
+        <translation>Special Pages</translation>
+    </message>
+    <message>
+        <source>VELSpecialPage</source>
+        <translation>Special Pages</translation>
+    </message>
+    <message>
+        <source>Page Options</source>
+        <translation>Page Options</translation>
+    </message>
+    <message>
+        <source>Page Type</source>
+        <translation>Page Type</translation>
+    </message>
+    <message>
+        <source>Paper Options</source>
+        <translation>Paper Options</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Cover Options</source>
+        <translation>Cover Options</translation>
+    </message>
+    <message>
+        <source>Double-Sided Printing</source>
+        <translation>Double-Sided Printing</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>PageNumberHint</source>
+        <translation>e.g. 2,5-8</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Up</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Down</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Update</translation>
+    </message>
+    <message>
+        <source>Front Cover</source>
+        <translation>Front Cover</translation>
+    </message>
+    <message>
+        <source>Back Cover</source>
+        <translation>Back Cover</translation>
+    </message>
+    <message>
+        <source>Front and Back Cover</source>
+        <translation>Front and Back Cover</translation>
+    </message>
+    <message>
+        <source>Before Page 1</source>
+        <translation>Before Page 1</translation>
+    </message>
+    <message>
+        <source>After Page(s)</source>
+        <translation>After Page(s)</translation>
+    </message>
+    <message>
+        <source>After Page %1</source>
+        <translation>After Page %1</translation>
+    </message>
+    <message>
+        <source>Blank or Preprinted</source>
+        <translation>Blank or Preprinted</translation>
+    </message>
+    <message>
+        <source>1-Sided Printed</source>
+        <translation>1-Sided Printed</translation>
+    </message>
+    <message>
+        <source>2-Sided Printed</source>
+        <translation>2-Sided Printed</translation>
+    </message>
+    <message>
+        <source>DuplexNone</source>
+        <translation>1-Sided</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>Long Edge</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>Short Edge</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Inserted Sheet</source>
+        <translation>Inserted Sheet</translation>
+    </message>
+    <message>
+        <source>Exception Pages</source>
+        <translation>Exception Pages</translation>
+    </message>
+    <message>
+        <source>PrintErrorTitle</source>
+        <translation>No special pages</translation>
+    </message>
+    <message>
+        <source>PrintErrorContent</source>
+        <translation>The list of special pages is empty. Print without special pages?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Yes</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>No</translation>
+    </message>
+</context>
 </TS>

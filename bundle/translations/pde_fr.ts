@@ -1222,4 +1222,230 @@
         <translation>ID utilisateur</translation>
     </message>
 </context>
+<context>
+    <name>ManualMarginPDELocalizable</name>
+    <message>
+        <source>ManualMarginPanelName</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>Margin for</source>
+        <translation>Marge pour</translation>
+    </message>
+    <message>
+        <source>VELMarginFor</source>
+        <translation>Marge</translation>
+    </message>
+    <message>
+        <source>VELBindingPosition</source>
+        <translation>Position de reliure</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>Auto Reduction</source>
+        <translation>Réduire la page pour l'adapter</translation>
+    </message>
+    <message>
+        <source>Same value for front and back</source>
+        <translation>Même valeur recto et verso</translation>
+    </message>
+    <message>
+        <source>Front side</source>
+        <translation>Recto</translation>
+    </message>
+    <message>
+        <source>Back side</source>
+        <translation>Verso</translation>
+    </message>
+    <message>
+        <source>LeftPosition</source>
+        <translation>Gauche</translation>
+    </message>
+    <message>
+        <source>RightPosition</source>
+        <translation>Droite</translation>
+    </message>
+    <message>
+        <source>TopPosition</source>
+        <translation>Haut</translation>
+    </message>
+    <message>
+        <source>BottomPosition</source>
+        <translation>Bas</translation>
+    </message>
+    <message>
+        <source>Concept Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>(0 - 50 mm)</source>
+        <translation>(0 - 50 mm)</translation>
+    </message>
+    <message>
+        <source>(0 - 25 mm)</source>
+        <translation>(0 - 25 mm)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 2.00 inches)</source>
+        <translation>(0.00 - 2.00 pouces)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 1.00 inches)</source>
+        <translation>(0.00 - 1.00 pouce)</translation>
+    </message>
+</context>
+<context>
+    <name>SpecialPagePDELocalizable</name>
+    <message>
+        <source>SpecialPagePanelName</source>
+        <translation>Pages spéciales</translation>
+    </message>
+    <message>
+        <source>VELSpecialPage</source>
+        <translation>Pages spéciales</translation>
+    </message>
+    <message>
+        <source>Page Options</source>
+        <translation>Options de page</translation>
+    </message>
+    <message>
+        <source>Page Type</source>
+        <translation>Type de page</translation>
+    </message>
+    <message>
+        <source>Paper Options</source>
+        <translation>Options papier</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Source</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Cover Options</source>
+        <translation>Options de couverture</translation>
+    </message>
+    <message>
+        <source>Double-Sided Printing</source>
+        <translation>Impression recto verso</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
+    <message>
+        <source>PageNumberHint</source>
+        <translation>p. ex. 2,5-8</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Monter</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Descendre</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Mettre à jour</translation>
+    </message>
+    <message>
+        <source>Front Cover</source>
+        <translation>Couverture avant</translation>
+    </message>
+    <message>
+        <source>Back Cover</source>
+        <translation>Couverture arrière</translation>
+    </message>
+    <message>
+        <source>Front and Back Cover</source>
+        <translation>Couvertures avant et arrière</translation>
+    </message>
+    <message>
+        <source>Before Page 1</source>
+        <translation>Avant la page 1</translation>
+    </message>
+    <message>
+        <source>After Page(s)</source>
+        <translation>Après la/les page(s)</translation>
+    </message>
+    <message>
+        <source>After Page %1</source>
+        <translation>Après la page %1</translation>
+    </message>
+    <message>
+        <source>Blank or Preprinted</source>
+        <translation>Vierge ou préimprimée</translation>
+    </message>
+    <message>
+        <source>1-Sided Printed</source>
+        <translation>Imprimée recto</translation>
+    </message>
+    <message>
+        <source>2-Sided Printed</source>
+        <translation>Imprimée recto verso</translation>
+    </message>
+    <message>
+        <source>DuplexNone</source>
+        <translation>Recto</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>Bord long</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>Bord court</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Inserted Sheet</source>
+        <translation>Intercalaire</translation>
+    </message>
+    <message>
+        <source>Exception Pages</source>
+        <translation>Pages d'exception</translation>
+    </message>
+    <message>
+        <source>PrintErrorTitle</source>
+        <translation>Aucune page spéciale</translation>
+    </message>
+    <message>
+        <source>PrintErrorContent</source>
+        <translation>La liste des pages spéciales est vide. Imprimer sans pages spéciales ?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>Oui</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>Non</translation>
+    </message>
+</context>
 </TS>

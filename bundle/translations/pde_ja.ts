@@ -1222,4 +1222,230 @@
         <translation>ユーザー ID</translation>
     </message>
 </context>
+<context>
+    <name>ManualMarginPDELocalizable</name>
+    <message>
+        <source>ManualMarginPanelName</source>
+        <translation>余白</translation>
+    </message>
+    <message>
+        <source>Margin for</source>
+        <translation>余白の種類</translation>
+    </message>
+    <message>
+        <source>VELMarginFor</source>
+        <translation>余白</translation>
+    </message>
+    <message>
+        <source>VELBindingPosition</source>
+        <translation>とじ位置</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <translation>左とじ</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>右とじ</translation>
+    </message>
+    <message>
+        <source>Top</source>
+        <translation>上とじ</translation>
+    </message>
+    <message>
+        <source>Auto Reduction</source>
+        <translation>自動縮小</translation>
+    </message>
+    <message>
+        <source>Same value for front and back</source>
+        <translation>表面と裏面を同じ値にする</translation>
+    </message>
+    <message>
+        <source>Front side</source>
+        <translation>表面</translation>
+    </message>
+    <message>
+        <source>Back side</source>
+        <translation>裏面</translation>
+    </message>
+    <message>
+        <source>LeftPosition</source>
+        <translation>左</translation>
+    </message>
+    <message>
+        <source>RightPosition</source>
+        <translation>右</translation>
+    </message>
+    <message>
+        <source>TopPosition</source>
+        <translation>上</translation>
+    </message>
+    <message>
+        <source>BottomPosition</source>
+        <translation>下</translation>
+    </message>
+    <message>
+        <source>Concept Preview</source>
+        <translation>イメージ</translation>
+    </message>
+    <message>
+        <source>(0 - 50 mm)</source>
+        <translation>(0 - 50 mm)</translation>
+    </message>
+    <message>
+        <source>(0 - 25 mm)</source>
+        <translation>(0 - 25 mm)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 2.00 inches)</source>
+        <translation>(0.00 - 2.00 インチ)</translation>
+    </message>
+    <message>
+        <source>(0.00 - 1.00 inches)</source>
+        <translation>(0.00 - 1.00 インチ)</translation>
+    </message>
+</context>
+<context>
+    <name>SpecialPagePDELocalizable</name>
+    <message>
+        <source>SpecialPagePanelName</source>
+        <translation>特殊ページ</translation>
+    </message>
+    <message>
+        <source>VELSpecialPage</source>
+        <translation>特殊ページ</translation>
+    </message>
+    <message>
+        <source>Page Options</source>
+        <translation>ページ設定</translation>
+    </message>
+    <message>
+        <source>Page Type</source>
+        <translation>ページの種類</translation>
+    </message>
+    <message>
+        <source>Paper Options</source>
+        <translation>用紙設定</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>給紙方法</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>用紙種類</translation>
+    </message>
+    <message>
+        <source>Cover Options</source>
+        <translation>表紙の印刷</translation>
+    </message>
+    <message>
+        <source>Double-Sided Printing</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>PageNumberHint</source>
+        <translation>例: 2,5-8</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>追加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>下へ</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Front Cover</source>
+        <translation>表表紙</translation>
+    </message>
+    <message>
+        <source>Back Cover</source>
+        <translation>裏表紙</translation>
+    </message>
+    <message>
+        <source>Front and Back Cover</source>
+        <translation>表表紙と裏表紙</translation>
+    </message>
+    <message>
+        <source>Before Page 1</source>
+        <translation>1ページ目の前</translation>
+    </message>
+    <message>
+        <source>After Page(s)</source>
+        <translation>指定ページの後</translation>
+    </message>
+    <message>
+        <source>After Page %1</source>
+        <translation>%1ページ目の後</translation>
+    </message>
+    <message>
+        <source>Blank or Preprinted</source>
+        <translation>白紙または印刷済み</translation>
+    </message>
+    <message>
+        <source>1-Sided Printed</source>
+        <translation>片面印刷</translation>
+    </message>
+    <message>
+        <source>2-Sided Printed</source>
+        <translation>両面印刷</translation>
+    </message>
+    <message>
+        <source>DuplexNone</source>
+        <translation>片面</translation>
+    </message>
+    <message>
+        <source>Long Edge</source>
+        <translation>長辺とじ</translation>
+    </message>
+    <message>
+        <source>Short Edge</source>
+        <translation>短辺とじ</translation>
+    </message>
+    <message>
+        <source>Page</source>
+        <translation>ページ</translation>
+    </message>
+    <message>
+        <source>Inserted Sheet</source>
+        <translation>合紙</translation>
+    </message>
+    <message>
+        <source>Exception Pages</source>
+        <translation>例外ページ</translation>
+    </message>
+    <message>
+        <source>PrintErrorTitle</source>
+        <translation>特殊ページがありません</translation>
+    </message>
+    <message>
+        <source>PrintErrorContent</source>
+        <translation>特殊ページのリストが空です。特殊ページなしで印刷しますか?</translation>
+    </message>
+    <message>
+        <source>Yes</source>
+        <translation>はい</translation>
+    </message>
+    <message>
+        <source>No</source>
+        <translation>いいえ</translation>
+    </message>
+</context>
 </TS>

@@ -2,6 +2,8 @@
 
 #include "MRAdvancedOptionPDE.h"
 #include "MRManualDuplexPDE.h"
+#include "MRManualMarginPDE.h"
+#include "MRSpecialPagePDE.h"
 #include "MRPDE_MACFinishingEH.h"
 #include "MRPDE_MACGraphicsPaperEH.h"
 #include "MRPDE_MACJobHandlingEH.h"
@@ -27,8 +29,8 @@ const QList<Standalone>& standalonePanels()
         {"MRSecureReleasePDE", &MRSecureReleasePDE::create},
         {"MRAdvancedOptionPDE", &MRAdvancedOptionPDE::create},
         {"MRManualDuplexPDE", &MRManualDuplexPDE::create},
-        {"MRSpecialPagePDE", nullptr},
-        {"MRManualMarginPDE", nullptr},
+        {"MRSpecialPagePDE", &MRSpecialPagePDE::create},
+        {"MRManualMarginPDE", &MRManualMarginPDE::create},
     };
     return list;
 }

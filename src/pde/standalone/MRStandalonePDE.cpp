@@ -102,6 +102,18 @@ std::shared_ptr<MRAdvancedPDEChoice> MRStandalonePDE::selectionForPopUpWithKey(Q
     return choice;
 }
 
+std::shared_ptr<MRPDEChoice> MRStandalonePDE::choiceSelectionForPopUpWithKey(QComboBox* popUp, const QString& key)
+{
+    _PDELog(this, QStringLiteral("selected index: %i"), popUp ? popUp->currentIndex() : -1);
+    std::shared_ptr<MRPDEChoice> choice = popUp ? PDEItemChoice(popUp, popUp->currentIndex()) : nullptr;
+    _PDELog(this, QStringLiteral("selected request: %@"), choice ? choice->ppdTitle() : QString());
+    if (choice && m_useConstraintHandling) {
+        m_callback->willChangePPDOptionKeyValue(key, choice->ppdTitle());
+        updateMarkedSelections();
+    }
+    return choice;
+}
+
 int MRStandalonePDE::indexOfMarkedOptionForKey(const QString& key) const
 {
     if (!m_ppd)

@@ -111,6 +111,10 @@ protected:
     // Reads the panel's selections again from the PPD's marks.
     virtual void updateMarkedSelections() {}
 
+    // selectionForPopUpWithKey() for pop-ups whose items carry MRPDEChoice
+    // records (the Manual Margin and Special Pages pop-ups).
+    std::shared_ptr<MRPDEChoice> choiceSelectionForPopUpWithKey(QComboBox* popUp, const QString& key);
+
     void setHasInited(bool inited) { m_hasInited = inited; }
     void setWillShowCalled(bool shown) { m_bWillShow = shown; }
     // Logs the result of the creation: the panel exists, or refuses to.

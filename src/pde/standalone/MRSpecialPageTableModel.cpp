@@ -1,0 +1,60 @@
+#include "MRSpecialPageTableModel.h"
+
+#include "PDELog.h"
+
+MRSpecialPageTableModel::MRSpecialPageTableModel(CellText cellText, QObject* parent)
+    : QAbstractTableModel(parent), m_cellText(std::move(cellText))
+{
+}
+
+void MRSpecialPageTableModel::setRows(const QList<MRSpecialPageRow>& rows)
+{
+    beginResetModel();
+    m_rows = rows;
+    endResetModel();
+}
+
+void MRSpecialPageTableModel::setSuppressed(bool suppressed)
+{
+    if (suppressed == m_suppressed)
+        return;
+    beginResetModel();
+    m_suppressed = suppressed;
+    endResetModel();
+}
+
+void MRSpecialPageTableModel::setHeaders(const QStringList& headers)
+{
+    m_headers = headers;
+    emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
+}
+
+int MRSpecialPageTableModel::rowCount(const QModelIndex& parent) const
+{
+    if (parent.isValid())
+        return 0;
+    if (m_suppressed) {
+        _PDELog(this, QStringLiteral("return 0 because of poster"));
+        return 0;
+    }
+    return int(m_rows.size());
+}
+
+int MRSpecialPageTableModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : kColumns;
+}
+
+QVariant MRSpecialPageTableModel::data(const QModelIndex& index, int role) const
+{
+    if (role != Qt::DisplayRole || !index.isValid() || m_suppressed || index.row() >= m_rows.size())
+        return QVariant();
+    return m_cellText ? m_cellText(m_rows[index.row()], index.column()) : QString();
+}
+
+QVariant MRSpecialPageTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (role == Qt::DisplayRole && orientation == Qt::Horizontal && section < m_headers.size())
+        return m_headers[section];
+    return QAbstractTableModel::headerData(section, orientation, role);
+}
