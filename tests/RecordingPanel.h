@@ -4,6 +4,7 @@
 #include <QLabel>
 #include <QList>
 #include <QPair>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -32,13 +33,19 @@ public:
     QStringList supportedPPDOptionKeys() override { return {}; }
     bool restoreValuesAndReturnError(QString*) override { return note("restore"); }
     bool saveValuesAndReturnError(QString*) override { return note("save"); }
-    void PPDOptionKeyValueDidChange(const QString& option, const QString& choice) override { changesReceived.append({option, choice}); }
+    void PPDOptionKeyValueDidChange(const QString& option, const QString& choice) override
+    {
+        changesReceived.append({option, choice});
+        if (forward)
+            forward(option, choice);
+    }
     bool shouldShowHelp() override { return note("help"); }
 
     bool allowHide = true;            // shouldHide's answer
     std::optional<bool> printAnswer;  // shouldPrint's answer; none: the panel has no print checks
     QVariantMap summary;              // summaryInfo's answer
     QList<QPair<QString, QString>> changesReceived;
+    std::function<void(const QString&, const QString&)> forward;  // e.g. to a model, as a panel hands changes on
 
 private:
     bool note(const char* call)
