@@ -224,6 +224,7 @@ private slots:
         PDEFeaturePtr m2 = model2.featureWithKey(u"MediaType"_s);
         QVERIFY(m2->setCurrentValueWithChoiceWithKeyword(u"Thick"_s));
         QCOMPARE(marked(*h, "MediaType"), u"Thick"_s);
+        QVERIFY(!h->willChangePPDOptionKeyValue(u"MediaType"_s, u"Bogus"_s));  // the host refuses what the PPD lacks
         QVERIFY(!m2->setCurrentValueWithChoiceWithKeyword(u"NotAChoice"_s));
         QVERIFY(!m2->setCurrentValueWithChoiceWithDisplayString(u"Thick "_s));
         QVERIFY(m2->setCurrentValueWithChoiceWithDisplayString(u"Transparency"_s));
