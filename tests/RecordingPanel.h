@@ -33,7 +33,12 @@ public:
     QStringList supportedPPDOptionKeys() override { return {}; }
     bool restoreValuesAndReturnError(QString*) override { return note("restore"); }
     bool saveValuesAndReturnError(QString*) override { return note("save"); }
-    void PPDOptionKeyValueDidChange(const QString& option, const QString& choice) override { changesReceived.append({option, choice}); }
+    void PPDOptionKeyValueDidChange(const QString& option, const QString& choice) override
+    {
+        changesReceived.append({option, choice});
+        if (forward)
+            forward(option, choice);
+    }
     bool shouldShowHelp() override { return note("help"); }
 
     bool allowHide = true;            // shouldHide's answer
@@ -41,6 +46,7 @@ public:
     std::function<bool()> printCheck; // else shouldPrint's own checks
     QVariantMap summary;              // summaryInfo's answer
     QList<QPair<QString, QString>> changesReceived;
+    std::function<void(const QString&, const QString&)> forward;  // e.g. to a model, as a panel hands changes on
 
 private:
     bool note(const char* call)

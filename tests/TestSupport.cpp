@@ -96,6 +96,12 @@ QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body)
     return f.fileName();
 }
 
+QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QString& bodyFixture)
+{
+    QFile body(fixture(bodyFixture));
+    return body.open(QIODevice::ReadOnly) ? writePPD(dir, name, QString::fromUtf8(body.readAll())) : QString();
+}
+
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv)
 {
     QProcess p;

@@ -22,6 +22,8 @@ std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap&
 // Writes a PPD into dir: a minimal valid header and Letter page size, then
 // body (options, attributes, constraints). Answers the file's path.
 QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body);
+// The same, with the body read from a fixture file.
+QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QString& bodyFixture);
 // Runs print-panels; answers the exit status and fills stdout/stderr.
 // extraEnv: "NAME=value" sets, "-NAME" removes a variable.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
