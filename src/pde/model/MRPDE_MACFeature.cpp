@@ -114,8 +114,12 @@ void MRPDE_MACFeature::saveValues()
 {
     if (!m_modelDelegate)
         return;
+    // A feature without a value has nothing to say: what another panel or
+    // the command line wrote under its key (a user ID) stays.
+    if (!m_currentValue)
+        return;
     PMPrintSettings* settings = m_modelDelegate->printSettings();
-    const QString value = m_currentValue ? m_currentValue->keyword() : QString();
+    const QString value = m_currentValue->keyword();
     if (PMPrintSettingsSetValue(settings, m_keyword, value, false) != kPMNoError)
         _PDELog(this, QStringLiteral("PDE_MACFeature: saveValues failed for keyword(%@) currentValue(%@) "), m_keyword,
                 PDESecrets::loggable(m_keyword, value));
