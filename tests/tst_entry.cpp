@@ -8,6 +8,7 @@
 #include "PDEPanel.h"
 #include "PDEPanelFactory.h"
 #include "PDEVersionChecks.h"
+#include "PanelSession.h"
 #include "TestSupport.h"
 
 #include <QJsonArray>
@@ -30,6 +31,8 @@ private slots:
     void printOptionsOutput();
     // These turn the process-wide debug switch on, so they come last.
     void panelsForType();
+    void panelList_data();
+    void panelList();
     void versionProbes();
 
 private:
@@ -240,6 +243,43 @@ void EntryTest::panelsForType()
     QCOMPARE(log.lines().filter(QStringLiteral("Load Failed")), expected + expected);
     QVERIFY(first.size() >= made);
     QVERIFY(first.first()->panelKind().endsWith(QStringLiteral(".graphicsPaperPDE")));
+}
+
+// The dialog's panels on real PPDs: all nine in their order where the PPD
+// has their options, the generic four where the PPD installs the maker's own
+// extensions, and no standalone panel for options a printer lacks.
+void EntryTest::panelList_data()
+{
+    QTest::addColumn<QString>("ppd");
+    QTest::addColumn<QStringList>("names");
+    const QStringList generic{"Graphics/Paper", "Job Handling", "Finishing", "Security"};
+    const QStringList standalone{"Secure Release", "Advanced Options", "Manual 2-Sided Printing", "Special Pages", "Margin"};
+    QTest::newRow("colour MFP: all nine") << TestSupport::samplePPD() << generic + standalone;
+    QStringList noSpecialPages = generic + standalone;
+    noSpecialPages.removeAll(QStringLiteral("Special Pages"));
+    QTest::newRow("M200: no special pages") << TestSupport::samplePPD(QStringLiteral("velmora-m200")) << noSpecialPages;
+    QFile sample(TestSupport::samplePPD());
+    QVERIFY(sample.open(QIODevice::ReadOnly));
+    QByteArray text = sample.readAll();
+    text.replace("PDEs/VelmoraColorProfiles.plugin", "PDEs/AdvancedOptionPDE.plugin");
+    QFile withExtension(m_dir.filePath(QStringLiteral("extension.ppd")));
+    QVERIFY(withExtension.open(QIODevice::WriteOnly) && withExtension.write(text) == text.size());
+    QTest::newRow("maker's extension installed") << withExtension.fileName() << generic;
+    // The generic panels are made whatever the PPD has; the others refuse.
+    QTest::newRow("no options of any panel") << TestSupport::writePPD(m_dir, QStringLiteral("bare.ppd"), QString()) << generic;
+}
+
+void EntryTest::panelList()
+{
+    QFETCH(QString, ppd);
+    QFETCH(QStringList, names);
+    QString error;
+    auto session = PanelSession::open({ppd, {}, {}, {}, {}}, &error);
+    QVERIFY2(session, qPrintable(error));
+    QStringList got;
+    for (const auto& p : session->panels())
+        got << p->panelName();
+    QCOMPARE(got, names);
 }
 
 void EntryTest::versionProbes()
