@@ -198,6 +198,9 @@ void EntryTest::printOptionsOutput()
     QString shown;
     QCOMPARE(TestSupport::runApp(QStringList(args) << "--show-secrets", &shown, &err), 0);
     QVERIFY(shown.contains(QStringLiteral("EnterPassword=pw1\n")));
+    // Nor does the description show a PIN, in its field or its summary.
+    QCOMPARE(TestSupport::runApp({"--ppd", TestSupport::samplePPD(), "-o", "AccountType=PinCode PINCode=98765", "--describe"}, &shown, &err), 0);
+    QVERIFY(shown.contains(QStringLiteral("\"PINCode\": \"<hidden>\"")) && !shown.contains(QStringLiteral("98765")));
     const QStringList lines = out.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QStringList keys;
     for (const QString& l : lines)

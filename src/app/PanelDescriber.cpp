@@ -1,5 +1,7 @@
 #include "PanelDescriber.h"
 
+#include "PDESecrets.h"
+
 #include "PDEPanel.h"
 #include "PDEStepper.h"
 
@@ -91,7 +93,9 @@ QJsonObject PanelDescriber::describeControl(QWidget* w, QWidget* view)
         o[QStringLiteral("checked")] = t->isChecked();
         o[QStringLiteral("title")] = t->text();
     } else if (auto* e = qobject_cast<QLineEdit*>(w)) {
-        if (e->echoMode() == QLineEdit::Password || e->echoMode() == QLineEdit::NoEcho) {
+        // A password, or a field that shows a PIN: its length only, never the text.
+        if (e->echoMode() == QLineEdit::Password || e->echoMode() == QLineEdit::NoEcho
+            || PDESecrets::isSecretKey(e->property("pdeOptionKey").toString())) {
             o[QStringLiteral("type")] = QStringLiteral("securefield");
             o[QStringLiteral("length")] = int(e->text().size());
         } else {
@@ -157,7 +161,11 @@ QJsonObject PanelDescriber::describe(PDEPanel& panel)
     o[QStringLiteral("kind")] = panel.panelKind();
     o[QStringLiteral("name")] = panel.panelName();
     o[QStringLiteral("supportedPPDOptionKeys")] = QJsonArray::fromStringList(panel.supportedPPDOptionKeys());
-    o[QStringLiteral("summaryInfo")] = QJsonObject::fromVariantMap(panel.summaryInfo());
+    QVariantMap summary = panel.summaryInfo();
+    for (auto it = summary.begin(); it != summary.end(); ++it)
+        if (PDESecrets::isSecretKey(it.key()) && !it.value().toString().isEmpty())
+            it.value() = QStringLiteral("<hidden>");
+    o[QStringLiteral("summaryInfo")] = QJsonObject::fromVariantMap(summary);
     o[QStringLiteral("controls")] = describeControls(panel.panelView());
     return o;
 }

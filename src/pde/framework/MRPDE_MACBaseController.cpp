@@ -15,6 +15,10 @@ MRPDE_MACBaseController::MRPDE_MACBaseController(const PDEFeaturePtr& feature, Q
     setFeature(feature);
     setControl(control);
     setModel(model);
+    // The option a control shows, for those who describe it (and keep a
+    // password or PIN out of what they print).
+    if (control && feature)
+        control->setProperty("pdeOptionKey", feature->keyword());
 }
 
 MRPDE_MACBaseController::MRPDE_MACBaseController(const PDEAttributePtr& attribute, QWidget* control,
