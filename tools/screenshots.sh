@@ -22,9 +22,35 @@ rm -f "$out"/*.png
 
 # English texts, whatever the caller's language; the window saves its own
 # pictures (QWidget::grab) and quits.
-LC_ALL=C.UTF-8 LANG=C.UTF-8 LANGUAGE=en \
-PRINT_PANELS_SCREENSHOTS="$PWD/$out" \
-  xvfb-run -a -s "-screen 0 1280x900x24" build/src/app/print-panels "$@" >/dev/null
+shoot() {
+  LC_ALL=C.UTF-8 LANG=C.UTF-8 LANGUAGE=en \
+  PRINT_PANELS_SCREENSHOTS="$PWD/$out" \
+    xvfb-run -a -s "-screen 0 1280x900x24" build/src/app/print-panels "$@" >/dev/null
+}
+shoot "$@"
+
+# The sample printer's panels again with the settings that bring their other
+# views: panel number, the view's name, the options.
+if [ "$*" = README.md ]; then
+  while IFS='|' read -r panel variant options; do
+    [ -n "$panel" ] || continue
+    # shellcheck disable=SC2086
+    PRINT_PANELS_SCREENSHOTS_PANEL="$panel:$variant" shoot --ppd bundle/printers/velmora-c5500.ppd $options README.md
+  done <<'VIEWS'
+2|confidential|-o JobSetting=Confidential -o AccountType=Accounting
+2|store|-o JobSetting=Store -o AccountType=Pincode
+2|store-and-print|-o JobSetting=StoreNPrint -o AccountType=NewPin
+2|delayed|-o JobSetting=Delay
+3|c-fold|-o FoldingOptions=CFolding
+3|v-fold|-o FoldingOptions=VFolding
+4|secure-watermark|-o VELHardCopySecurity=Secure
+4|password-job|-o VELHardCopySecurity=Password
+5|release-on|-o VELSecureReleaseOption=On
+7|long-edge|-o VELManualDuplexOption=LongEdge
+9|binding-margin|-o VELMarginFor=BindingMargin
+9|image-shift|-o VELMarginFor=ImageShift
+VIEWS
+fi
 
 {
   echo "# Screenshots of the print dialog"

@@ -381,8 +381,21 @@ QStringList PrintDialogWindow::saveScreenshots(const QString& dir, QString* erro
         else
             *error = tr("%1 cannot be written").arg(path);
     };
-    shoot(QStringLiteral("dialog.png"));
     PanelStack* stack = ui->panelStack;
+    // PRINT_PANELS_SCREENSHOTS_PANEL=N[:VARIANT] shoots only panel N (from 1),
+    // its files named with VARIANT: the same panel with other settings.
+    const QString only = qEnvironmentVariable("PRINT_PANELS_SCREENSHOTS_PANEL");
+    if (!only.isEmpty()) {
+        const int row = only.section(QLatin1Char(':'), 0, 0).toInt() - 1;
+        if (row < 0 || row >= stack->count() - 1) {
+            *error = tr("there is no panel %1").arg(row + 1);
+            return written;
+        }
+        stack->selectRow(row);
+        shootPanel(row, shoot, only.section(QLatin1Char(':'), 1));
+        return written;
+    }
+    shoot(QStringLiteral("dialog.png"));
     const int summaryRow = stack->count() - 1;
     for (int row = 0; row < stack->count(); ++row) {
         stack->selectRow(row);
@@ -408,10 +421,12 @@ QStringList PrintDialogWindow::saveScreenshots(const QString& dir, QString* erro
     return written;
 }
 
-void PrintDialogWindow::shootPanel(int row, const std::function<void(const QString&)>& shoot)
+void PrintDialogWindow::shootPanel(int row, const std::function<void(const QString&)>& shoot, const QString& variant)
 {
     PDEPanel* panel = ui->panelStack->panelAt(row);
-    const QString base = QStringLiteral("panel-%1-%2").arg(row + 1, 2, 10, QLatin1Char('0')).arg(slugOf(panel->panelName()));
+    QString base = QStringLiteral("panel-%1-%2").arg(row + 1, 2, 10, QLatin1Char('0')).arg(slugOf(panel->panelName()));
+    if (!variant.isEmpty())
+        base += QLatin1Char('-') + slugOf(variant);
     QWidget* view = panel->panelView();
     auto* tabs = view ? view->findChild<QTabWidget*>() : nullptr;
     if (!tabs || tabs->count() < 2) {

@@ -59,7 +59,7 @@ protected:
 
 private:
     // Saves a picture of panel row, one of each tab where the panel has tabs.
-    void shootPanel(int row, const std::function<void(const QString&)>& shoot);
+    void shootPanel(int row, const std::function<void(const QString&)>& shoot, const QString& variant = QString());
 
     void retranslate();
     void updateMainButton();
