@@ -151,7 +151,11 @@ bool PanelSession::prepareToPrint(QString* refusal, const std::function<void(PDE
 QJsonObject PanelSession::describe()
 {
     QJsonArray panels;
-    for (const auto& p : std::as_const(m_panels))
+    // Each panel as the user sees it when it is shown.
+    for (const auto& p : std::as_const(m_panels)) {
+        p->willShow();
         panels.append(PanelDescriber::describe(*p));
+        p->shouldHide();
+    }
     return QJsonObject{{QStringLiteral("panels"), panels}};
 }

@@ -54,8 +54,10 @@ QString PDEBundle::pathForResource(const QString& name, const QString& type) con
     if (type == QLatin1String("plist") || type == QLatin1String("json")) {
         folder = QStringLiteral("data");
         suffix = QStringLiteral("json");
-    } else if (type == QLatin1String("png")) {
+    } else if (type == QLatin1String("png") || type == QLatin1String("gif")) {
+        // Every picture is drawn as a PNG, whatever type its caller names.
         folder = QStringLiteral("images");
+        suffix = QStringLiteral("png");
     } else if (type == QLatin1String("html")) {
         folder = QStringLiteral("help");
     } else if (type == QLatin1String("ppd")) {

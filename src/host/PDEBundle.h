@@ -23,7 +23,7 @@ public:
     QString bundleIdentifier() const;
 
     // The path of resource NAME of TYPE. The type "plist" maps to ".json"
-    // files in data/, "png" to images/, "html" to help/. Null when absent.
+    // files in data/, "png" and "gif" to images/NAME.png, "html" to help/. Null when absent.
     QString pathForResource(const QString& name, const QString& type) const;
     // The language the translations are loaded for ("en", "de", ...).
     QString language() const { return m_language; }
