@@ -11,10 +11,7 @@
 #include "ui_JAConfirmPopUpWindow.h"
 #include "ui_JobHandling.h"
 
-#include <QApplication>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace {
 using Panel = TestSupport::OpenedPanel<MRPDE_MACJobHandlingEH, MRPDE_MACJobHandlingPDEController>;
