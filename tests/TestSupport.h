@@ -1,4 +1,6 @@
 #pragma once
+#include "MRPDE_MACChangeHandlerModel.h"
+#include "PDEBundle.h"
 #include "PDEPluginCallback.h"
 #include "PrintDialogHost.h"
 
@@ -27,6 +29,45 @@ QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QStri
 // Runs print-panels; answers the exit status and fills stdout/stderr.
 // extraEnv: "NAME=value" sets, "-NAME" removes a variable.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
+
+// One model-driven panel opened the way the dialog opens it: the PPD with
+// the -o options applied, the model and panel made in the language given,
+// its values restored, its view shown. Null when any step fails.
+template <class EH, class Controller>
+struct OpenedPanel {
+    std::unique_ptr<PrintDialogHost> host;
+    std::shared_ptr<MRPDE_MACChangeHandlerModel> model;
+    std::shared_ptr<EH> eh;
+    Controller* controller = nullptr;
+    decltype(std::declval<Controller&>().ui()) ui = nullptr;
+
+    static std::unique_ptr<OpenedPanel> open(const QString& ppd, const QString& options = {}, const QString& language = QStringLiteral("en"))
+    {
+        auto p = std::make_unique<OpenedPanel>();
+        QString error;
+        if (!(p->host = openHost(ppd)) || (!options.isEmpty() && !p->host->applyOptions(options, &error))) {
+            qWarning("%s", qPrintable(error));
+            return nullptr;
+        }
+        auto bundle = PDEBundle::embedded();
+        bundle->setLanguage(language);
+        p->model = std::make_shared<MRPDE_MACChangeHandlerModel>(bundle, p->host.get());
+        if (!(p->eh = EH::create(bundle, p->model)))
+            return nullptr;
+        p->controller = static_cast<Controller*>(p->eh->controller());
+        p->ui = p->controller->ui();
+        p->host->setPanels({p->eh.get()});
+        p->eh->restoreValuesAndReturnError(&error);
+        p->eh->panelView()->show();
+        return p;
+    }
+    // The keyword of the feature's current value; empty without one.
+    QString value(const QString& key) const
+    {
+        PDEFeaturePtr f = model->featureWithKey(key);
+        return f && f->currentValue() ? f->currentValue()->keyword() : QString();
+    }
+};
 }
 
 // A callback that forwards to a real host but can leave operations out, as

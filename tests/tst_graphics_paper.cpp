@@ -2,74 +2,28 @@
 // own: which tabs and rows show, the document-type, colour-model, media-type
 // and preferred-colour rules, the layout corrections, driven through the
 // controls and through -o.
-#include "MRPDE_MACChangeHandlerModel.h"
 #include "MRPDE_MACGraphicsPaperController.h"
 #include "MRPDE_MACGraphicsPaperEH.h"
-#include "PDEBundle.h"
 #include "PDEHelp.h"
 #include "PanelDescriber.h"
-#include "TestSupport.h"
+#include "PanelHarness.h"
 #include "ui_GraphicsAndPaper.h"
 
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QTest>
-#include <cups/ppd.h>
+#include <QtCore>
 
 namespace {
-struct Panel {
-    std::unique_ptr<PrintDialogHost> host;
-    std::shared_ptr<MRPDE_MACChangeHandlerModel> model;
-    std::shared_ptr<MRPDE_MACGraphicsPaperEH> eh;
-    MRPDE_MACGraphicsPaperController* controller = nullptr;
-    Ui::GraphicsAndPaper* ui = nullptr;
-
-    QString value(const char* key) const
-    {
-        PDEFeaturePtr f = model->featureWithKey(QString::fromLatin1(key));
-        return f && f->currentValue() ? f->currentValue()->keyword() : QString();
-    }
-    QStringList tabs() const
-    {
-        QStringList t;
-        for (int i = 0; i < ui->m_tabView->count(); ++i)
-            t << ui->m_tabView->tabText(i);
-        return t;
-    }
-};
-
-std::unique_ptr<Panel> openPanel(const QString& ppd, const QString& options = QString(), const QString& language = QStringLiteral("en"))
+using Panel = TestSupport::OpenedPanel<MRPDE_MACGraphicsPaperEH, MRPDE_MACGraphicsPaperController>;
+std::unique_ptr<Panel> openPanel(const QString& ppd, const QString& language = QStringLiteral("en"))
 {
-    auto p = std::make_unique<Panel>();
-    p->host = TestSupport::openHost(ppd);
-    if (!p->host)
-        return nullptr;
-    if (!options.isEmpty() && !p->host->applyOptions(options, nullptr))
-        return nullptr;
-    auto bundle = PDEBundle::embedded();
-    bundle->setLanguage(language);
-    p->model = std::make_shared<MRPDE_MACChangeHandlerModel>(bundle, p->host.get());
-    p->eh = MRPDE_MACGraphicsPaperEH::create(bundle, p->model);
-    if (!p->eh)
-        return nullptr;
-    p->controller = static_cast<MRPDE_MACGraphicsPaperController*>(p->eh->controller());
-    p->ui = p->controller->ui();
-    p->host->setPanels({p->eh.get()});
-    QString error;
-    p->eh->restoreValuesAndReturnError(&error);
-    p->eh->panelView()->show();
-    return p;
+    return Panel::open(ppd, QString(), language);
 }
 
-// Picks an item the way a person does with the keyboard.
-void pick(QComboBox* box, const QString& title)
+QStringList tabNames(const Panel& p)
 {
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Home);
-    for (int i = 0; i < box->count() && box->currentText() != title; ++i)
-        QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(box->currentText(), title);
+    QStringList t;
+    for (int i = 0; i < p.ui->m_tabView->count(); ++i)
+        t << p.ui->m_tabView->tabText(i);
+    return t;
 }
 
 // Clicks a check box on its box, where a person clicks.
@@ -122,296 +76,258 @@ const QString kPaperPPD = QStringLiteral(R"(
 
 class GraphicsPaperTest : public QObject {
     Q_OBJECT
-private slots:
-    void initTestCase();
-    void tabsAndRows_data();
-    void tabsAndRows();
-    void documentTypeRules();
-    void grayColourModelRules();
-    void preferredColour();
-    void separatorsFollowMediaType();
-    void unusedCheckBoxesCloseUp();
-    void longLanguagesGetWiderControls_data();
-    void longLanguagesGetWiderControls();
-    void protocolAnswers();
-    void throughCommandLine_data();
-    void throughCommandLine();
-
-private:
     QTemporaryDir m_dir;
+
+private slots:
+    void tabsAndRows_data()
+    {
+        QTest::addColumn<QString>("ppd");
+        QTest::addColumn<QStringList>("tabs");
+        QTest::addColumn<QStringList>("qualityLabels");
+
+        QTest::newRow("colour MFP") << TestSupport::samplePPD() << QStringList{"Quality", "Color", "Levels", "Paper"}
+                                    << QStringList{"Document Type:", "X-Ray Contrast:", "Resolution:", "Toner Save:", "Print Density:",
+                                                   "Darken Text:", "Edge Enhancement:", "Fine Edge:"};
+        QTest::newRow("monochrome") << TestSupport::samplePPD(QStringLiteral("velmora-m200")) << QStringList{"Quality", "Paper"}
+                                    << QStringList{"Resolution:"};
+        QTest::newRow("colour model without RGBA") << TestSupport::writePPD(m_dir, QStringLiteral("c.ppd"), kColourPPD) << QStringList{}
+                                                   << QStringList{};
+    }
+
+    void tabsAndRows()
+    {
+        QFETCH(QString, ppd);
+        QFETCH(QStringList, tabs);
+        auto p = openPanel(ppd);
+        QVERIFY(p);
+        QCOMPARE(tabNames(*p), tabs);
+        const QJsonObject controls = PanelDescriber::describeControls(p->eh->panelView());
+        // The rows close up: the first labels show, the rest are hidden.
+        QStringList shown;
+        for (int i = 1; i <= 8; ++i) {
+            const QJsonObject label = controls.value(QStringLiteral("tab1Label%1").arg(i)).toObject();
+            if (label.value(QStringLiteral("visible")).toBool())
+                shown << label.value(QStringLiteral("text")).toString();
+        }
+        QTEST(shown, "qualityLabels");
+        // A removed tab's controls are gone with it.
+        QCOMPARE(controls.contains(QStringLiteral("tab2PopUpButton1")), tabs.contains(QStringLiteral("Color")));
+        // Without an "RGBA" colour model there is no colour tab, whatever else the printer has.
+        if (tabs.isEmpty())
+            QVERIFY(p->model->featureWithKey(QStringLiteral("HalftoneLPI")) && p->model->featureWithKey(QStringLiteral("BlackOptimization")));
+    }
+
+    void documentTypeRules()
+    {
+        auto p = openPanel(TestSupport::samplePPD());
+        QVERIFY(p);
+        auto& u = *p->ui;
+        QVERIFY(!u.tab1PopUpButton2->isEnabled());  // X-ray contrast waits for X-ray documents
+        pick(u.tab3PopUpButton1, QStringLiteral("+2"));
+        QCOMPARE(p->value("n_Brightness"), QStringLiteral("Plus2"));
+
+        pick(u.tab1PopUpButton1, QStringLiteral("Text"));
+        QCOMPARE(p->value("DocType"), QStringLiteral("Text"));
+        // Every image option is greyed out and back at its default.
+        for (QWidget* w : QList<QWidget*>{u.tab2PopUpButton1, u.tab2PopUpButton2, u.tab2PopUpButton5, u.tab2PopUpButton6, u.tab3PopUpButton1,
+                                          u.tab1PopUpButton3, u.tab1PopUpButton7, u.preferredColorCheckButton})
+            QVERIFY2(!w->isEnabled(), qPrintable(w->objectName()));
+        QCOMPARE(p->value("n_Brightness"), QStringLiteral("Normal"));
+        QCOMPARE(u.tab3PopUpButton1->currentText(), QStringLiteral("0"));
+        QVERIFY(!u.tab1PopUpButton2->isEnabled());
+
+        pick(u.tab1PopUpButton1, QStringLiteral("X-Ray Image"));
+        QVERIFY(u.tab1PopUpButton2->isEnabled());
+        pick(u.tab1PopUpButton2, QStringLiteral("High"));
+        pick(u.tab1PopUpButton1, QStringLiteral("Standard"));
+        QVERIFY(!u.tab1PopUpButton2->isEnabled());
+        QCOMPARE(p->value("XrayContrast"), QStringLiteral("Normal"));
+        QVERIFY(u.tab2PopUpButton5->isEnabled() && u.tab3PopUpButton1->isEnabled());
+    }
+
+    void grayColourModelRules()
+    {
+        auto p = openPanel(TestSupport::samplePPD());
+        QVERIFY(p);
+        auto& u = *p->ui;
+        pick(u.tab2PopUpButton2, QStringLiteral("On"));
+        pick(u.tab2PopUpButton1, QStringLiteral("Grayscale"));
+        QCOMPARE(p->value("ColorModel"), QStringLiteral("Gray"));
+        // Colour-only rows go grey and back to their defaults ...
+        for (QWidget* w : QList<QWidget*>{u.tab2PopUpButton2, u.tab2PopUpButton4, u.tab2PopUpButton5, u.tab3PopUpButton3,
+                                          u.tab3PrefPopUpButton1, u.preferredColorCheckButton})
+            QVERIFY2(!w->isEnabled(), qPrintable(w->objectName()));
+        QCOMPARE(p->value("BlackOptimization"), QStringLiteral("Off"));
+        // ... the rest stay usable.
+        for (QWidget* w : QList<QWidget*>{u.tab2PopUpButton1, u.tab3PopUpButton1, u.tab3PopUpButton2, u.tab2PopUpButton6,
+                                          u.tab1PopUpButton7, u.tab1PopUpButton3})
+            QVERIFY2(w->isEnabled(), qPrintable(w->objectName()));
+        pick(u.tab2PopUpButton1, QStringLiteral("Color"));
+        QVERIFY(u.tab2PopUpButton2->isEnabled());
+    }
+
+    void preferredColour()
+    {
+        auto p = openPanel(TestSupport::samplePPD());
+        QVERIFY(p);
+        auto& u = *p->ui;
+        // Only brightness, contrast and saturation stay on the tab; the balances move below.
+        QVERIFY(u.tab3PopUpButton3->isVisibleTo(u.tabViewItemLevels) && !u.tab3PopUpButton4->isVisibleTo(u.tabViewItemLevels));
+        QCOMPARE(u.preferredColorView->y(), u.tab3PopUpButton3->y() + u.tab3PopUpButton3->height() + 10);
+        QVERIFY(u.preferredColorOFFView->isVisibleTo(u.preferredColorView));
+        QVERIFY(!u.preferredColorONView->isVisibleTo(u.preferredColorView));
+
+        pick(u.tab3PrefPopUpButton1, QStringLiteral("+1"));
+        QCOMPARE(p->value("n_RCBalance"), QStringLiteral("Plus1"));
+        u.m_tabView->setCurrentWidget(u.tabViewItemLevels);
+        click(u.preferredColorCheckButton);
+        QCOMPARE(p->value("PreferredColorCheck"), QStringLiteral("On"));
+        QVERIFY(!u.preferredColorOFFView->isVisibleTo(u.preferredColorView));
+        QVERIFY(u.preferredColorONView->isVisibleTo(u.preferredColorView));
+        QCOMPARE(p->value("n_RCBalance"), QStringLiteral("Normal"));
+
+        pick(u.tab3PrefPopUpButton4, QStringLiteral("-2"));
+        QCOMPARE(p->value("n_Skin"), QStringLiteral("Minus2"));
+        click(u.preferredColorCheckButton);
+        QCOMPARE(p->value("PreferredColorCheck"), QStringLiteral("Off"));
+        QCOMPARE(p->value("n_Skin"), QStringLiteral("Normal"));
+        QVERIFY(u.preferredColorOFFView->isVisibleTo(u.preferredColorView));
+    }
+
+    // A printer with the paper tab alone: unused check boxes close up, the
+    // separator rows follow the media type.
+    void paperTabOnly()
+    {
+        auto full = openPanel(TestSupport::samplePPD());
+        auto p = openPanel(TestSupport::writePPD(m_dir, QStringLiteral("paper.ppd"), kPaperPPD));
+        QVERIFY(full && p);
+        auto& u = *p->ui;
+        QCOMPARE(tabNames(*p), QStringList{"Paper"});
+        QCOMPARE(full->controller->numberOfUnusedCheckBoxes(), 0);
+        QCOMPARE(p->controller->numberOfUnusedCheckBoxes(), 2);
+        QVERIFY(u.skipBlankPagesCheckBoxButton->isVisibleTo(u.tabViewItemPaper));
+        QVERIFY(!u.pageCurlReductionCheckBoxButton->isVisibleTo(u.tabViewItemPaper));
+        QVERIFY(!u.reverseDuplexCheckBoxButton->isVisibleTo(u.tabViewItemPaper));
+        for (const char* name : {"tab4SeperatorSourcePopUpButton", "tab4SeperatorSourceLabel", "tab4SeperatorOptionPopUpButton",
+                                 "tab4SeperatorOptionLabel"}) {
+            auto* a = full->eh->panelView()->findChild<QWidget*>(QString::fromLatin1(name));
+            QCOMPARE(a->y() - p->eh->panelView()->findChild<QWidget*>(QString::fromLatin1(name))->y(), 52);
+        }
+
+        p->eh->willShow();
+        QVERIFY(!u.tab4SeperatorOptionPopUpButton->isVisibleTo(u.tabViewItemPaper));
+        QVERIFY(!u.tab4SeperatorSourceLabel->isVisibleTo(u.tabViewItemPaper));
+        pick(u.tab4PopUpButton1, QStringLiteral("Transparency"));
+        QVERIFY(u.tab4SeperatorOptionPopUpButton->isVisibleTo(u.tabViewItemPaper));
+        QVERIFY(u.tab4SeperatorSourceLabel->isVisibleTo(u.tabViewItemPaper));
+        // The tab is laid out again: the panel grows to the visible rows, and the dialog is told.
+        const int rows = *p->controller->totalHeightOfActiveViewContentRowsInTabViewItem(u.tabViewItemPaper);
+        QCOMPARE(p->eh->panelView()->height(), std::max(rows + 55, 180));
+        const int withSeparators = p->eh->panelView()->height();
+        pick(u.tab4PopUpButton1, QStringLiteral("Plain"));
+        QVERIFY(!u.tab4SeperatorOptionPopUpButton->isVisibleTo(u.tabViewItemPaper));
+        QVERIFY(p->eh->panelView()->height() < withSeparators);
+    }
+
+    void longLanguagesGetWiderControls_data()
+    {
+        QTest::addColumn<QString>("language");
+        QTest::addColumn<int>("shift");
+        QTest::newRow("German") << "de" << 48;
+        QTest::newRow("French") << "fr" << 48;
+        QTest::newRow("Japanese") << "ja" << 0;
+    }
+
+    void longLanguagesGetWiderControls()
+    {
+        QFETCH(QString, language);
+        QFETCH(int, shift);
+        auto reference = openPanel(TestSupport::samplePPD());
+        auto p = openPanel(TestSupport::samplePPD(), language);
+        QVERIFY(reference && p);
+        QCOMPARE(reference->ui->tab4Label1->width() - p->ui->tab4Label1->width(), shift);
+        QCOMPARE(reference->ui->tab4PopUpButton1->x() - p->ui->tab4PopUpButton1->x(), shift);
+        QCOMPARE(p->ui->tab4PopUpButton1->width() - reference->ui->tab4PopUpButton1->width(), shift);
+        QCOMPARE(p->ui->reverseDuplexCheckBoxButton->x() + p->ui->reverseDuplexCheckBoxButton->width(),
+                 reference->ui->reverseDuplexCheckBoxButton->x() + reference->ui->reverseDuplexCheckBoxButton->width());
+        // The tab names come from the bundle in the user's language.
+        if (language == QLatin1String("de"))
+            QCOMPARE(tabNames(*p), (QStringList{"Qualität", "Farbe", "Stufen", "Papier"}));
+    }
+
+    void protocolAnswers()
+    {
+        auto p = openPanel(TestSupport::samplePPD());
+        QVERIFY(p);
+        const QVariantMap summary = p->eh->summaryInfo();
+        QCOMPARE(summary.value(QStringLiteral("DocType")).toString(), QStringLiteral("Standard"));
+        QCOMPARE(summary.value(QStringLiteral("ColorModel")).toString(), QStringLiteral("RGBA"));
+        QVERIFY(!summary.contains(QStringLiteral("Screen")));
+        QVERIFY(!p->model->features().contains(nullptr));
+
+        // The help answer is inverted: an opened page answers false.
+        QString opened;
+        PDEHelp::setOpener([&](const QString& path) { opened = path; return true; });
+        QVERIFY(!p->eh->shouldShowHelp());
+        QVERIFY(opened.endsWith(QStringLiteral("GraphicsPaperPDEHelp.html")));
+        PDEHelp::setOpener([](const QString&) { return false; });
+        QVERIFY(p->eh->shouldShowHelp());
+        PDEHelp::setOpener(nullptr);
+
+        QVERIFY(p->eh->willShow());
+        QVERIFY(p->controller->currentlyActive());
+        QVERIFY(p->eh->shouldHide());
+        QVERIFY(!p->controller->currentlyActive());
+    }
+
+    void throughCommandLine_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QStringList>("expected");
+        QTest::addColumn<bool>("halftoneEnabled");
+        // Grey printing resets the colour-only options that came with it.
+        QTest::newRow("gray resets saturation") << QStringList{"ColorModel=Gray n_Saturation=Plus1 n_Brightness=Plus1"}
+                                                << QStringList{"ColorModel=Gray", "n_Saturation=Normal", "n_Brightness=Plus1"} << true;
+        QTest::newRow("text resets the image options") << QStringList{"DocType=Text", "RGBColor=Natural XrayContrast=High"}
+                                                       << QStringList{"DocType=Text", "RGBColor=Vivid", "XrayContrast=Normal"} << false;
+        QTest::newRow("x-ray keeps its contrast") << QStringList{"DocType=XRay XrayContrast=High"}
+                                                  << QStringList{"DocType=XRay", "XrayContrast=High"} << false;
+        QTest::newRow("standard keeps colour") << QStringList{"RGBColor=Natural"} << QStringList{"RGBColor=Natural", "DocType=Standard"} << true;
+        // Nine quality rows, eight pop-ups: the ninth row has no control but its rules still run.
+        QTest::newRow("photo resets the ninth row") << QStringList{"DocType=Photo", "id_Trapping=On"}
+                                                    << QStringList{"DocType=Photo", "id_Trapping=Off"} << false;
+        // Values given at opening survive the Preferred Color observation.
+        QTest::newRow("memory colour kept") << QStringList{"n_Skin=Plus1"} << QStringList{"n_Skin=Plus1"} << true;
+        QTest::newRow("balance kept") << QStringList{"PreferredColorCheck=On", "n_RCBalance=Plus1"}
+                                      << QStringList{"PreferredColorCheck=On", "n_RCBalance=Plus1"} << true;
+    }
+
+    void throughCommandLine()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QStringList, expected);
+        QStringList args{"--ppd", TestSupport::samplePPD(), "--print-options"};
+        for (const QString& o : options)
+            args << "-o" << o;
+        QString out, err;
+        QCOMPARE(TestSupport::runApp(args, &out, &err), 0);
+        const QStringList lines = out.split(QLatin1Char('\n'));
+        for (const QString& e : expected)
+            QVERIFY2(lines.contains(e), qPrintable(e + QStringLiteral(" in\n") + out));
+
+        // The description agrees with what is printed.
+        QString json;
+        args.replace(args.indexOf(QStringLiteral("--print-options")), QStringLiteral("--describe"));
+        QCOMPARE(TestSupport::runApp(args, &json, &err), 0);
+        const QJsonArray panels = QJsonDocument::fromJson(json.toUtf8()).object().value(QStringLiteral("panels")).toArray();
+        QVERIFY(!panels.isEmpty());
+        const QJsonObject graphics = panels.first().toObject();
+        QCOMPARE(graphics.value(QStringLiteral("name")).toString(), QStringLiteral("Graphics/Paper"));
+        const QJsonObject controls = graphics.value(QStringLiteral("controls")).toObject();
+        QTEST(controls.value(QStringLiteral("tab2PopUpButton6")).toObject().value(QStringLiteral("enabled")).toBool(), "halftoneEnabled");
+        QCOMPARE(controls.value(QStringLiteral("m_tabView")).toObject().value(QStringLiteral("tabs")).toArray().size(), 4);
+    }
 };
-
-void GraphicsPaperTest::initTestCase()
-{
-    QVERIFY(m_dir.isValid());
-}
-
-void GraphicsPaperTest::tabsAndRows_data()
-{
-    QTest::addColumn<QString>("ppd");
-    QTest::addColumn<QStringList>("tabs");
-    QTest::addColumn<QStringList>("qualityLabels");
-
-    QTest::newRow("colour MFP") << TestSupport::samplePPD() << QStringList{"Quality", "Color", "Levels", "Paper"}
-                                << QStringList{"Document Type:", "X-Ray Contrast:", "Resolution:", "Toner Save:", "Print Density:",
-                                               "Darken Text:", "Edge Enhancement:", "Fine Edge:"};
-    QTest::newRow("monochrome") << TestSupport::samplePPD(QStringLiteral("velmora-m200")) << QStringList{"Quality", "Paper"}
-                                << QStringList{"Resolution:"};
-    QTest::newRow("colour model without RGBA") << TestSupport::writePPD(m_dir, QStringLiteral("c.ppd"), kColourPPD) << QStringList{}
-                                               << QStringList{};
-}
-
-void GraphicsPaperTest::tabsAndRows()
-{
-    QFETCH(QString, ppd);
-    QFETCH(QStringList, tabs);
-    QFETCH(QStringList, qualityLabels);
-    auto p = openPanel(ppd);
-    QVERIFY(p);
-    QCOMPARE(p->tabs(), tabs);
-    const QJsonObject controls = PanelDescriber::describeControls(p->eh->panelView());
-    // The rows close up: the first labels show, the rest are hidden.
-    QStringList shown;
-    for (int i = 1; i <= 8; ++i) {
-        const QJsonObject label = controls.value(QStringLiteral("tab1Label%1").arg(i)).toObject();
-        if (label.value(QStringLiteral("visible")).toBool())
-            shown << label.value(QStringLiteral("text")).toString();
-    }
-    QCOMPARE(shown, qualityLabels);
-    // A removed tab's controls are gone with it.
-    QCOMPARE(controls.contains(QStringLiteral("tab2PopUpButton1")), tabs.contains(QStringLiteral("Color")));
-    // Without an "RGBA" colour model there is no colour tab, whatever else the printer has.
-    if (tabs.isEmpty())
-        QVERIFY(p->model->featureWithKey(QStringLiteral("HalftoneLPI")) && p->model->featureWithKey(QStringLiteral("BlackOptimization")));
-}
-
-void GraphicsPaperTest::documentTypeRules()
-{
-    auto p = openPanel(TestSupport::samplePPD());
-    QVERIFY(p);
-    auto& u = *p->ui;
-    QVERIFY(!u.tab1PopUpButton2->isEnabled());  // X-ray contrast waits for X-ray documents
-    pick(u.tab2PopUpButton5, QStringLiteral("Natural"));
-    QCOMPARE(p->value("RGBColor"), QStringLiteral("Natural"));
-    pick(u.tab3PopUpButton1, QStringLiteral("+2"));
-    QCOMPARE(p->value("n_Brightness"), QStringLiteral("Plus2"));
-
-    pick(u.tab1PopUpButton1, QStringLiteral("Text"));
-    QCOMPARE(p->value("DocType"), QStringLiteral("Text"));
-    // Every image option is greyed out and back at its default.
-    for (QWidget* w : QList<QWidget*>{u.tab2PopUpButton1, u.tab2PopUpButton2, u.tab2PopUpButton5, u.tab2PopUpButton6, u.tab3PopUpButton1,
-                                      u.tab1PopUpButton3, u.tab1PopUpButton7, u.preferredColorCheckButton})
-        QVERIFY2(!w->isEnabled(), qPrintable(w->objectName()));
-    QCOMPARE(p->value("RGBColor"), QStringLiteral("Vivid"));
-    QCOMPARE(p->value("n_Brightness"), QStringLiteral("Normal"));
-    QCOMPARE(u.tab3PopUpButton1->currentText(), QStringLiteral("0"));
-    QVERIFY(!u.tab1PopUpButton2->isEnabled());
-
-    pick(u.tab1PopUpButton1, QStringLiteral("X-Ray Image"));
-    QVERIFY(u.tab1PopUpButton2->isEnabled());
-    pick(u.tab1PopUpButton2, QStringLiteral("High"));
-    pick(u.tab1PopUpButton1, QStringLiteral("Standard"));
-    QVERIFY(!u.tab1PopUpButton2->isEnabled());
-    QCOMPARE(p->value("XrayContrast"), QStringLiteral("Normal"));
-    QVERIFY(u.tab2PopUpButton5->isEnabled() && u.tab3PopUpButton1->isEnabled());
-}
-
-void GraphicsPaperTest::grayColourModelRules()
-{
-    auto p = openPanel(TestSupport::samplePPD());
-    QVERIFY(p);
-    auto& u = *p->ui;
-    pick(u.tab2PopUpButton2, QStringLiteral("On"));
-    pick(u.tab2PopUpButton1, QStringLiteral("Grayscale"));
-    QCOMPARE(p->value("ColorModel"), QStringLiteral("Gray"));
-    // Colour-only rows go grey and back to their defaults ...
-    for (QWidget* w : QList<QWidget*>{u.tab2PopUpButton2, u.tab2PopUpButton4, u.tab2PopUpButton5, u.tab3PopUpButton3,
-                                      u.tab3PrefPopUpButton1, u.preferredColorCheckButton})
-        QVERIFY2(!w->isEnabled(), qPrintable(w->objectName()));
-    QCOMPARE(p->value("BlackOptimization"), QStringLiteral("Off"));
-    // ... the rest stay usable.
-    for (QWidget* w : QList<QWidget*>{u.tab2PopUpButton1, u.tab3PopUpButton1, u.tab3PopUpButton2, u.tab2PopUpButton6,
-                                      u.tab1PopUpButton7, u.tab1PopUpButton3})
-        QVERIFY2(w->isEnabled(), qPrintable(w->objectName()));
-    pick(u.tab2PopUpButton1, QStringLiteral("Color"));
-    QVERIFY(u.tab2PopUpButton2->isEnabled());
-}
-
-void GraphicsPaperTest::preferredColour()
-{
-    auto p = openPanel(TestSupport::samplePPD());
-    QVERIFY(p);
-    auto& u = *p->ui;
-    // Only brightness, contrast and saturation stay on the tab; the balances move below.
-    QVERIFY(u.tab3PopUpButton3->isVisibleTo(u.tabViewItemLevels) && !u.tab3PopUpButton4->isVisibleTo(u.tabViewItemLevels));
-    QCOMPARE(u.preferredColorView->y(), u.tab3PopUpButton3->y() + u.tab3PopUpButton3->height() + 10);
-    QVERIFY(u.preferredColorOFFView->isVisibleTo(u.preferredColorView));
-    QVERIFY(!u.preferredColorONView->isVisibleTo(u.preferredColorView));
-
-    pick(u.tab3PrefPopUpButton1, QStringLiteral("+1"));
-    QCOMPARE(p->value("n_RCBalance"), QStringLiteral("Plus1"));
-    u.m_tabView->setCurrentWidget(u.tabViewItemLevels);
-    click(u.preferredColorCheckButton);
-    QCOMPARE(p->value("PreferredColorCheck"), QStringLiteral("On"));
-    QVERIFY(!u.preferredColorOFFView->isVisibleTo(u.preferredColorView));
-    QVERIFY(u.preferredColorONView->isVisibleTo(u.preferredColorView));
-    QCOMPARE(p->value("n_RCBalance"), QStringLiteral("Normal"));
-
-    pick(u.tab3PrefPopUpButton4, QStringLiteral("-2"));
-    QCOMPARE(p->value("n_Skin"), QStringLiteral("Minus2"));
-    click(u.preferredColorCheckButton);
-    QCOMPARE(p->value("PreferredColorCheck"), QStringLiteral("Off"));
-    QCOMPARE(p->value("n_Skin"), QStringLiteral("Normal"));
-    QVERIFY(u.preferredColorOFFView->isVisibleTo(u.preferredColorView));
-}
-
-void GraphicsPaperTest::separatorsFollowMediaType()
-{
-    auto p = openPanel(TestSupport::writePPD(m_dir, QStringLiteral("paper.ppd"), kPaperPPD));
-    QVERIFY(p);
-    auto& u = *p->ui;
-    QCOMPARE(p->tabs(), QStringList{"Paper"});
-    p->eh->willShow();
-    QVERIFY(!u.tab4SeperatorOptionPopUpButton->isVisibleTo(u.tabViewItemPaper));
-    QVERIFY(!u.tab4SeperatorSourceLabel->isVisibleTo(u.tabViewItemPaper));
-
-    pick(u.tab4PopUpButton1, QStringLiteral("Transparency"));
-    QVERIFY(u.tab4SeperatorOptionPopUpButton->isVisibleTo(u.tabViewItemPaper));
-    QVERIFY(u.tab4SeperatorSourceLabel->isVisibleTo(u.tabViewItemPaper));
-    // The tab is laid out again: the panel grows to the visible rows, and the dialog is told.
-    const int rows = *p->controller->totalHeightOfActiveViewContentRowsInTabViewItem(u.tabViewItemPaper);
-    QCOMPARE(p->eh->panelView()->height(), std::max(rows + 55, 180));
-    const int withSeparators = p->eh->panelView()->height();
-
-    pick(u.tab4PopUpButton1, QStringLiteral("Plain"));
-    QVERIFY(!u.tab4SeperatorOptionPopUpButton->isVisibleTo(u.tabViewItemPaper));
-    QVERIFY(p->eh->panelView()->height() < withSeparators);
-}
-
-void GraphicsPaperTest::unusedCheckBoxesCloseUp()
-{
-    auto full = openPanel(TestSupport::samplePPD());
-    auto one = openPanel(TestSupport::writePPD(m_dir, QStringLiteral("paper.ppd"), kPaperPPD));
-    QVERIFY(full && one);
-    QCOMPARE(full->controller->numberOfUnusedCheckBoxes(), 0);
-    QCOMPARE(one->controller->numberOfUnusedCheckBoxes(), 2);
-    QVERIFY(one->ui->skipBlankPagesCheckBoxButton->isVisibleTo(one->ui->tabViewItemPaper));
-    QVERIFY(!one->ui->pageCurlReductionCheckBoxButton->isVisibleTo(one->ui->tabViewItemPaper));
-    QVERIFY(!one->ui->reverseDuplexCheckBoxButton->isVisibleTo(one->ui->tabViewItemPaper));
-    for (const char* name : {"tab4SeperatorSourcePopUpButton", "tab4SeperatorSourceLabel", "tab4SeperatorOptionPopUpButton",
-                             "tab4SeperatorOptionLabel"}) {
-        auto* a = full->eh->panelView()->findChild<QWidget*>(QString::fromLatin1(name));
-        auto* b = one->eh->panelView()->findChild<QWidget*>(QString::fromLatin1(name));
-        QCOMPARE(a->y() - b->y(), 52);
-    }
-}
-
-void GraphicsPaperTest::longLanguagesGetWiderControls_data()
-{
-    QTest::addColumn<QString>("language");
-    QTest::addColumn<int>("shift");
-    QTest::newRow("English") << "en" << 0;
-    QTest::newRow("German") << "de" << 48;
-    QTest::newRow("French") << "fr" << 48;
-    QTest::newRow("Japanese") << "ja" << 0;
-}
-
-void GraphicsPaperTest::longLanguagesGetWiderControls()
-{
-    QFETCH(QString, language);
-    QFETCH(int, shift);
-    auto reference = openPanel(TestSupport::samplePPD());
-    auto p = openPanel(TestSupport::samplePPD(), QString(), language);
-    QVERIFY(reference && p);
-    QCOMPARE(reference->ui->tab4Label1->width() - p->ui->tab4Label1->width(), shift);
-    QCOMPARE(reference->ui->tab4PopUpButton1->x() - p->ui->tab4PopUpButton1->x(), shift);
-    QCOMPARE(p->ui->tab4PopUpButton1->width() - reference->ui->tab4PopUpButton1->width(), shift);
-    QCOMPARE(p->ui->reverseDuplexCheckBoxButton->x() + p->ui->reverseDuplexCheckBoxButton->width(),
-             reference->ui->reverseDuplexCheckBoxButton->x() + reference->ui->reverseDuplexCheckBoxButton->width());
-    // The tab names come from the bundle in the user's language.
-    if (language == QLatin1String("de"))
-        QCOMPARE(p->tabs(), (QStringList{"Qualität", "Farbe", "Stufen", "Papier"}));
-}
-
-void GraphicsPaperTest::protocolAnswers()
-{
-    auto p = openPanel(TestSupport::samplePPD());
-    QVERIFY(p);
-    QVERIFY(p->eh->panelKind().endsWith(QStringLiteral(".graphicsPaperPDE")));
-    QCOMPARE(p->eh->panelName(), QStringLiteral("Graphics/Paper"));
-    const QVariantMap summary = p->eh->summaryInfo();
-    QCOMPARE(summary.value(QStringLiteral("DocType")).toString(), QStringLiteral("Standard"));
-    QCOMPARE(summary.value(QStringLiteral("ColorModel")).toString(), QStringLiteral("RGBA"));
-    QVERIFY(!summary.contains(QStringLiteral("Screen")));
-    QVERIFY(!p->model->features().contains(nullptr));
-
-    // The help answer is inverted: an opened page answers false.
-    QString opened;
-    PDEHelp::setOpener([&](const QString& path) { opened = path; return true; });
-    QVERIFY(!p->eh->shouldShowHelp());
-    QVERIFY(opened.endsWith(QStringLiteral("GraphicsPaperPDEHelp.html")));
-    PDEHelp::setOpener([](const QString&) { return false; });
-    QVERIFY(p->eh->shouldShowHelp());
-    PDEHelp::setOpener(nullptr);
-
-    // Saving writes every feature of the model.
-    QString error;
-    QVERIFY(p->eh->saveValuesAndReturnError(&error));
-    QCOMPARE(p->host->printSettings()->value(QStringLiteral("n_Brightness")), QStringLiteral("Normal"));
-    QVERIFY(p->eh->willShow());
-    QVERIFY(p->controller->currentlyActive());
-    QVERIFY(p->eh->shouldHide());
-    QVERIFY(!p->controller->currentlyActive());
-}
-
-void GraphicsPaperTest::throughCommandLine_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QStringList>("expected");
-    QTest::addColumn<bool>("halftoneEnabled");
-    // Grey printing resets the colour-only options that came with it.
-    QTest::newRow("gray resets saturation") << QStringList{"ColorModel=Gray n_Saturation=Plus1 n_Brightness=Plus1"}
-                                            << QStringList{"ColorModel=Gray", "n_Saturation=Normal", "n_Brightness=Plus1"} << true;
-    QTest::newRow("text resets the image options") << QStringList{"DocType=Text", "RGBColor=Natural XrayContrast=High"}
-                                                   << QStringList{"DocType=Text", "RGBColor=Vivid", "XrayContrast=Normal"} << false;
-    QTest::newRow("x-ray keeps its contrast") << QStringList{"DocType=XRay XrayContrast=High"}
-                                              << QStringList{"DocType=XRay", "XrayContrast=High"} << false;
-    QTest::newRow("standard keeps colour") << QStringList{"RGBColor=Natural"} << QStringList{"RGBColor=Natural", "DocType=Standard"} << true;
-    // Nine quality rows, eight pop-ups: the ninth row has no control but its rules still run.
-    QTest::newRow("photo resets the ninth row") << QStringList{"DocType=Photo", "id_Trapping=On"}
-                                                << QStringList{"DocType=Photo", "id_Trapping=Off"} << false;
-    // Values given at opening survive the Preferred Color observation.
-    QTest::newRow("memory colour kept") << QStringList{"n_Skin=Plus1"} << QStringList{"n_Skin=Plus1"} << true;
-    QTest::newRow("balance kept") << QStringList{"PreferredColorCheck=On", "n_RCBalance=Plus1"}
-                                  << QStringList{"PreferredColorCheck=On", "n_RCBalance=Plus1"} << true;
-}
-
-void GraphicsPaperTest::throughCommandLine()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QStringList, expected);
-    QFETCH(bool, halftoneEnabled);
-    QStringList args{"--ppd", TestSupport::samplePPD(), "--print-options"};
-    for (const QString& o : options)
-        args << "-o" << o;
-    QString out, err;
-    QCOMPARE(TestSupport::runApp(args, &out, &err), 0);
-    const QStringList lines = out.split(QLatin1Char('\n'));
-    for (const QString& e : expected)
-        QVERIFY2(lines.contains(e), qPrintable(e + QStringLiteral(" in\n") + out));
-
-    // The description agrees with what is printed.
-    QString json;
-    args.replace(args.indexOf(QStringLiteral("--print-options")), QStringLiteral("--describe"));
-    QCOMPARE(TestSupport::runApp(args, &json, &err), 0);
-    const QJsonArray panels = QJsonDocument::fromJson(json.toUtf8()).object().value(QStringLiteral("panels")).toArray();
-    QVERIFY(!panels.isEmpty());
-    const QJsonObject graphics = panels.first().toObject();
-    QCOMPARE(graphics.value(QStringLiteral("name")).toString(), QStringLiteral("Graphics/Paper"));
-    const QJsonObject controls = graphics.value(QStringLiteral("controls")).toObject();
-    QCOMPARE(controls.value(QStringLiteral("tab2PopUpButton6")).toObject().value(QStringLiteral("enabled")).toBool(), halftoneEnabled);
-    QCOMPARE(controls.value(QStringLiteral("m_tabView")).toObject().value(QStringLiteral("tabs")).toArray().size(), 4);
-}
 
 QTEST_MAIN(GraphicsPaperTest)
 #include "tst_graphics_paper.moc"

@@ -2,76 +2,31 @@
 // print modes by installed hardware, sub-view swaps, field rules, the checks
 // before printing with their alerts, delayed password writes and the
 // job-accounting confirmation, in process and through the command line.
-#include "MRPDE_MACChangeHandlerModel.h"
 #include "MRPDE_MACJobHandlingEH.h"
 #include "MRPDE_MACJobHandlingPDEController.h"
 #include "PDEAlerts.h"
-#include "PDEBundle.h"
 #include "PDEHelp.h"
 #include "PDESecrets.h"
-#include "TestSupport.h"
+#include "PanelHarness.h"
 #include "ui_JAConfirmPopUpWindow.h"
 #include "ui_JobHandling.h"
 
-#include <QApplication>
-#include <QPushButton>
-#include <QRegularExpression>
-#include <QTest>
-#include <QTimer>
+#include <QtWidgets>
 
 namespace {
-struct Panel {
-    std::unique_ptr<PrintDialogHost> host;
-    std::shared_ptr<MRPDE_MACChangeHandlerModel> model;
-    std::shared_ptr<MRPDE_MACJobHandlingEH> eh;
-    MRPDE_MACJobHandlingPDEController* controller = nullptr;
-    Ui::JobHandling* ui = nullptr;
-
-    QString value(const QString& key) const
-    {
-        PDEFeaturePtr f = model->featureWithKey(key);
-        return f && f->currentValue() ? f->currentValue()->keyword() : QString();
-    }
-    // A field of the panel, also in a sub-view that is not shown.
-    QLineEdit* field(const QString& name) const
-    {
-        for (QWidget* w : QApplication::allWidgets())
-            if (auto* e = qobject_cast<QLineEdit*>(w); e && e->objectName() == name)
-                return e;
-        return nullptr;
-    }
-};
-
+using Panel = TestSupport::OpenedPanel<MRPDE_MACJobHandlingEH, MRPDE_MACJobHandlingPDEController>;
 std::unique_ptr<Panel> openPanel(const QString& ppd, const QString& options = QString())
 {
-    auto p = std::make_unique<Panel>();
-    p->host = TestSupport::openHost(ppd);
-    QString error;
-    if (!p->host || (!options.isEmpty() && !p->host->applyOptions(options, &error))) {
-        qWarning("%s", qPrintable(error));
-        return nullptr;
-    }
-    auto bundle = PDEBundle::embedded();
-    bundle->setLanguage(QStringLiteral("en"));
-    p->model = std::make_shared<MRPDE_MACChangeHandlerModel>(bundle, p->host.get());
-    p->eh = MRPDE_MACJobHandlingEH::create(bundle, p->model);
-    if (!p->eh)
-        return nullptr;
-    p->controller = static_cast<MRPDE_MACJobHandlingPDEController*>(p->eh->controller());
-    p->ui = p->controller->ui();
-    p->host->setPanels({p->eh.get()});
-    p->eh->restoreValuesAndReturnError(&error);
-    p->eh->panelView()->show();
-    return p;
+    return Panel::open(ppd, options);
 }
 
-void pick(QComboBox* box, const QString& title)
+// A field of the panel, also in a sub-view that is not shown.
+QLineEdit* lineEdit(const QString& name)
 {
-    box->setFocus();
-    QTest::keyClick(box, Qt::Key_Home);
-    for (int i = 0; i < box->count() && box->currentText() != title; ++i)
-        QTest::keyClick(box, Qt::Key_Down);
-    QCOMPARE(box->currentText(), title);
+    for (QWidget* w : QApplication::allWidgets())
+        if (auto* e = qobject_cast<QLineEdit*>(w); e && e->objectName() == name)
+            return e;
+    return nullptr;
 }
 
 const QString c5500 = TestSupport::samplePPD();
@@ -110,7 +65,6 @@ class JobHandlingTest : public QObject {
     QTemporaryDir m_dir;
 
 private slots:
-    void initTestCase() { QVERIFY(m_dir.isValid()); }
 
     void printModes_data()
     {
@@ -157,7 +111,6 @@ private slots:
     {
         QFETCH(QString, popUp);
         QFETCH(QString, title);
-        QFETCH(QString, view);
         auto p = openPanel(c5500);
         QVERIFY(p);
         const bool printMode = popUp == QLatin1String("printModePopUpButton");
@@ -166,7 +119,7 @@ private slots:
         p->ui->m_tabView->setCurrentIndex(printMode ? 0 : 1);
         pick(p->eh->panelView()->findChild<QComboBox*>(popUp), title);
         QVERIFY(current());
-        QCOMPARE(current()->objectName(), view);
+        QTEST(current()->objectName(), "view");
         QVERIFY(current()->isVisibleTo(p->eh->panelView()));
         // Only the chosen sub-view is in the panel; the panel is laid out for it.
         const auto inPanel = p->eh->panelView()->findChildren<QWidget*>(QRegularExpression(QStringLiteral("^custom.*[^n]View$")));
@@ -200,13 +153,12 @@ private slots:
         QFETCH(QString, options);
         QFETCH(QString, field);
         QFETCH(QString, typed);
-        QFETCH(QString, shown);
         auto p = openPanel(ppd, options);
-        QLineEdit* edit = p ? p->field(field) : nullptr;
+        QLineEdit* edit = p ? lineEdit(field) : nullptr;
         QVERIFY(edit && edit->isEnabled());
         edit->clear();
         QTest::keyClicks(edit, typed);
-        QCOMPARE(edit->text(), shown);
+        QTEST(edit->text(), "shown");
     }
 
     void printChecks_data()
@@ -287,7 +239,7 @@ private slots:
         QFETCH(QString, key);
         QFETCH(bool, delayed);
         auto p = openPanel(c5500, QStringLiteral("VELSecureReleaseOption3=Off"));
-        QLineEdit* edit = p ? p->field(field) : nullptr;
+        QLineEdit* edit = p ? lineEdit(field) : nullptr;
         QVERIFY(edit);
         QTest::keyClicks(edit, QStringLiteral("2468"));
         QCOMPARE(p->value(key), delayed ? QString() : QStringLiteral("2468"));
@@ -313,7 +265,6 @@ private slots:
     {
         QFETCH(QString, ppd);
         QFETCH(QString, options);
-        QFETCH(QStringList, rows);
         QFETCH(QStringList, typed);
         QFETCH(bool, ok);
         auto p = openPanel(ppd, options);
@@ -336,12 +287,11 @@ private slots:
         for (QLineEdit* f : fields)
             if (!f->isHidden())
                 shown << f->objectName();
-        QCOMPARE(shown, rows);
+        QTEST(shown, "rows");
         QCOMPARE(confirmed, ok);
         QCOMPARE(alerts.isEmpty(), ok);
         QVERIFY(w->jaConfirmPasswordTextField->text().isEmpty());  // the window keeps no secret
         QCOMPARE(p->value(ppd == m200 ? "ConfirmNewPIN" : "AccountPassword"), ok ? typed[1] : QString());
-        QCOMPARE(p->controller->JAConfirmPopUpWindow()->windowTitle(), QStringLiteral("Job Accounting Confirmation"));
     }
 
     void protocolAndSecrets()
@@ -354,8 +304,6 @@ private slots:
         QCOMPARE(summary.value(QStringLiteral("AccountType")).toString(), QStringLiteral("Pincode"));
         QCOMPARE(summary.value(QStringLiteral("JobSetting")).toString(), QStringLiteral("Normal"));
         QVERIFY(!summary.contains(QStringLiteral("AccountPassword")));
-        QCOMPARE(p->controller->extraAllowedCharacters(), QStringLiteral("@+"));
-        QVERIFY(p->controller->isInstOptSecReleaseEnabled());
         QVERIFY(!p->ui->confidentialViewEnterPasswordTextField->isEnabled());
         QString opened;
         PDEHelp::setOpener([&](const QString& path) { opened = path; return true; });
@@ -368,24 +316,15 @@ private slots:
         QVERIFY(!PDESecrets::isSecretKey(QStringLiteral("AccountID")));
     }
 
-    // Without a window: a refused print exits 3 with the alert, in the user's language where the PPD has it.
-    void refusedOnTheCommandLine_data()
-    {
-        QTest::addColumn<QStringList>("args");
-        QTest::addColumn<QStringList>("env");
-        QTest::addColumn<QString>("alert");
-        QTest::newRow("printer's German alert") << QStringList{"--ppd", c5500, "-o", "JobSetting=Confidential VELSecureReleaseOption3=Off"}
-                                               << QStringList{"LC_ALL=de_DE.UTF-8", "LANG=de_DE.UTF-8"} << "Geben Sie ein alphanumerisches Kennwort ein und wiederholen Sie es zur Bestätigung, um den Druckmodus zu verwenden.";
-        QTest::newRow("unconfirmed PIN") << QStringList{"--ppd", m200, "-o", "AccountType=NewPin NewPIN=12"} << QStringList{} << kPINAlert;
-    }
+    // Without a window a refused print exits 3 with the alert, in the
+    // user's language where the PPD has it.
     void refusedOnTheCommandLine()
     {
-        QFETCH(QStringList, args);
-        QFETCH(QStringList, env);
-        QFETCH(QString, alert);
         QString out, err;
-        QCOMPARE(TestSupport::runApp(args << "--print-options", &out, &err, env), 3);
-        QVERIFY2(err.contains(QStringLiteral("print-panels: ") + alert), qPrintable(err));
+        QCOMPARE(TestSupport::runApp({"--ppd", c5500, "-o", "JobSetting=Confidential VELSecureReleaseOption3=Off", "--print-options"}, &out,
+                                     &err, {"LC_ALL=de_DE.UTF-8", "LANG=de_DE.UTF-8"}), 3);
+        QVERIFY2(err.contains(QStringLiteral("print-panels: Geben Sie ein alphanumerisches Kennwort ein und wiederholen Sie es zur Bestätigung, "
+                                             "um den Druckmodus zu verwenden.")), qPrintable(err));
     }
 };
 
