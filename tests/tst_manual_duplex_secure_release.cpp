@@ -3,12 +3,9 @@
 #include "MRManualDuplexController.h"
 #include "MRManualDuplexPDE.h"
 #include "MRSecureReleasePDE.h"
-#include "PDEBundle.h"
-#include "TestSupport.h"
+#include "PanelHarness.h"
 #include "ui_ManualDuplexPDE.h"
 #include "ui_SecureReleasePDE.h"
-
-#include <QTest>
 
 namespace {
 // Manual 2-sided printing without a duplex unit option, and the printer's own step pictures.
@@ -22,40 +19,15 @@ const QString kNoUnit = QStringLiteral(R"(*OpenUI *VELManualDuplexOption/Manual 
 *VELManualDuplexImage1: "%1/images/itdrvM3.png"
 )");
 
+// A panel on a sample printer (or the "no unit" or a "plain" PPD) with job options.
 template <class Panel>
-struct Opened {
-    QTemporaryDir dir;
-    std::unique_ptr<PrintDialogHost> host;
-    std::shared_ptr<Panel> panel;
-};
-
-// A host on a sample printer (or "no unit"/"plain" PPDs) with job options, and
-// the panel on it, restored and shown as the dialog does.
-template <class Panel>
-std::unique_ptr<Opened<Panel>> open(const QString& printer, const QString& options = QString())
+Opened<Panel> open(const QString& printer, const QString& options = QString())
 {
-    auto o = std::make_unique<Opened<Panel>>();
-    const QString ppd = printer == "no unit" ? TestSupport::writePPD(o->dir, printer, kNoUnit.arg(PDE_SOURCE_BUNDLE_DIR))
-                        : printer == "plain" ? TestSupport::writePPD(o->dir, printer, QString())
+    static QTemporaryDir dir;
+    const QString ppd = printer == "no unit" ? TestSupport::writePPD(dir, printer, kNoUnit.arg(PDE_SOURCE_BUNDLE_DIR))
+                        : printer == "plain" ? TestSupport::writePPD(dir, printer, QString())
                                              : TestSupport::samplePPD(printer);
-    o->host = TestSupport::openHost(ppd);
-    QString error;
-    if (!options.isEmpty() && !o->host->applyOptions(options, &error))
-        qWarning("%s", qPrintable(error));
-    o->panel = Panel::create(o->host.get(), PDEBundle::embedded());
-    if (o->panel) {
-        o->panel->restoreValuesAndReturnError(nullptr);
-        o->panel->willShow();
-    }
-    return o;
-}
-
-QString marked(const PrintDialogHost& host, const QString& key)
-{
-    for (const auto& [k, v] : host.jobOptions())
-        if (k == key)
-            return v;
-    return QString();
+    return openPanel<Panel>(ppd, options);
 }
 }
 
@@ -76,12 +48,10 @@ private slots:
     void creation()
     {
         QFETCH(QString, printer);
-        QFETCH(QStringList, duplexKeys);
-        QFETCH(QStringList, secureKeys);
         auto duplex = open<MRManualDuplexPDE>(printer);
         auto secure = open<MRSecureReleasePDE>(printer);
-        QCOMPARE(duplex->panel ? duplex->panel->supportedPPDOptionKeys() : QStringList(), duplexKeys);
-        QCOMPARE(secure->panel ? secure->panel->supportedPPDOptionKeys() : QStringList(), secureKeys);
+        QTEST(duplex.panel ? duplex.panel->supportedPPDOptionKeys() : QStringList(), "duplexKeys");
+        QTEST(secure.panel ? secure.panel->supportedPPDOptionKeys() : QStringList(), "secureKeys");
     }
 
     void bindingPicture_data()
@@ -104,7 +74,7 @@ private slots:
         QFETCH(QString, printer);
         QFETCH(QString, options);
         auto o = open<MRManualDuplexPDE>(printer, options);
-        Ui::ManualDuplexPDE& u = *o->panel->ui();
+        Ui::ManualDuplexPDE& u = *o.panel->ui();
         QTEST(u.ManualDuplexView->property("imageName").toString(), "picture");
         QVERIFY(!u.ManualDuplexView->pixmap().isNull());
         QTEST(u.Step1ImageView->property("imageName").toString(), "firstStep");
@@ -153,17 +123,17 @@ private slots:
         QFETCH(QString, choice);
         auto o = open<MRManualDuplexPDE>(printer, options);
         if (!laterCopies.isEmpty()) {
-            o->host->printSettings()->setValue(QStringLiteral("copies"), laterCopies);
-            emit o->host->update();
+            o.host->printSettings()->setValue(QStringLiteral("copies"), laterCopies);
+            emit o.host->update();
         }
-        Ui::ManualDuplexPDE& u = *o->panel->ui();
+        Ui::ManualDuplexPDE& u = *o.panel->ui();
         QTEST(u.ManualDuplexPopup->isEnabled(), "enabled");
-        QCOMPARE(marked(*o->host, kManualDuplexKey), choice);
-        QCOMPARE(o->panel->manualduplexSelection()->ppdTitle(), choice);
-        QCOMPARE(u.ManualDuplexPopup->currentIndex(), int(o->panel->manualduplexChoices().indexOf(o->panel->manualduplexSelection())));
-        const QVariantMap summary = o->panel->summaryInfo();
-        QCOMPARE(summary.value(o->panel->getLocalizationWithKey(QStringLiteral("ManualDuplex"))).toString(),
-                 o->panel->getLocalizationWithKey(choice));
+        QCOMPARE(o.marked(kManualDuplexKey), choice);
+        QCOMPARE(o.panel->manualduplexSelection()->ppdTitle(), choice);
+        QCOMPARE(u.ManualDuplexPopup->currentIndex(), int(o.panel->manualduplexChoices().indexOf(o.panel->manualduplexSelection())));
+        const QVariantMap summary = o.panel->summaryInfo();
+        QCOMPARE(summary.value(o.panel->getLocalizationWithKey(QStringLiteral("ManualDuplex"))).toString(),
+                 o.panel->getLocalizationWithKey(choice));
     }
 
     void userID_data()
@@ -190,19 +160,19 @@ private slots:
         QFETCH(QString, typed);
         QFETCH(QString, printed);
         auto o = open<MRSecureReleasePDE>(printer, options);
-        Ui::SecureReleasePDE& u = *o->panel->ui();
+        Ui::SecureReleasePDE& u = *o.panel->ui();
         if (pick >= 0) {
             u.PSSPopup->setCurrentIndex(pick);
-            o->panel->changepssOption();
+            o.panel->changepssOption();
         }
         QTest::keyClicks(u.UserIDBox, typed);
         QTEST(u.UserIDBox->isEnabled(), "enabled");
         QCOMPARE(u.UserIDBox->text(), printed);
-        QCOMPARE(u.PSSPopup->currentIndex(), marked(*o->host, kSecureReleaseKey) == "On" ? 1 : 0);
-        QVERIFY(o->panel->shouldPrint());
+        QCOMPARE(u.PSSPopup->currentIndex(), o.marked(kSecureReleaseKey) == "On" ? 1 : 0);
+        QVERIFY(o.panel->shouldPrint());
         // The key is always there at print time, empty when no ID was given.
-        QVERIFY(o->host->printSettings()->contains(kSecureReleaseUserIDKey));
-        QCOMPARE(o->host->printSettings()->value(kSecureReleaseUserIDKey), printed);
+        QVERIFY(o.host->printSettings()->contains(kSecureReleaseUserIDKey));
+        QCOMPARE(o.host->printSettings()->value(kSecureReleaseUserIDKey), printed);
     }
 
     // Through the plug-in entry, as the command line prints and describes.

@@ -2,32 +2,16 @@
 // systems, steppers, the same-value switches, the pages-per-sheet rule, the
 // keys written for each kind and the concept pictures.
 #include "MRManualMarginPDE.h"
-#include "PDEBundle.h"
 #include "PDEStepper.h"
-#include "TestSupport.h"
+#include "PanelHarness.h"
 #include "ui_ManualMarginPDE.h"
 
 #include <QRegularExpression>
-#include <QTest>
 
 namespace {
-struct Opened {
-    std::unique_ptr<PrintDialogHost> host;
-    std::shared_ptr<MRManualMarginPDE> panel;
-};
-
-Opened openPanel(const QString& options = QString(), bool metric = false, const QString& printer = QStringLiteral("velmora-c5500"))
+Opened<MRManualMarginPDE> openMargin(const QString& options = QString(), bool metric = false, const QString& printer = QStringLiteral("velmora-c5500"))
 {
-    Opened o;
-    o.host = TestSupport::openHost(TestSupport::samplePPD(printer));
-    QString error;
-    if (!options.isEmpty() && !o.host->applyOptions(options, &error))
-        qWarning("%s", qPrintable(error));
-    o.panel = MRManualMarginPDE::create(o.host.get(), PDEBundle::embedded());
-    o.panel->restoreValuesAndReturnError(nullptr);
-    o.panel->setMetric(metric);
-    o.panel->willShow();
-    return o;
+    return openPanel<MRManualMarginPDE>(TestSupport::samplePPD(printer), options, [metric](MRManualMarginPDE& p) { p.setMetric(metric); });
 }
 
 QLineEdit* field(MRManualMarginPDE& panel, int tag)
@@ -84,7 +68,7 @@ private slots:
         QFETCH(int, tag);
         QFETCH(QString, typed);
         QFETCH(QString, stored);
-        Opened o = openPanel(QStringLiteral("VELBindingSameValue=Off VELISSameValue=Off"), metric);
+        auto o = openMargin(QStringLiteral("VELBindingSameValue=Off VELISSameValue=Off"), metric);
         QLineEdit* f = field(*o.panel, tag);
         QVERIFY(f);
         f->setText(typed);
@@ -134,7 +118,7 @@ private slots:
         QFETCH(bool, metric);
         QFETCH(QString, options);
         QFETCH(int, tag);
-        Opened o = openPanel(options, metric);
+        auto o = openMargin(options, metric);
         Ui::ManualMarginPDE& u = *o.panel->ui();
         PDEStepper* stepper = tag == 1 ? u.stepFrontSide : tag == 3 ? u.stepFrontSideImgShift1 : u.stepFrontSideImgShift2;
         stepper->stepUp();
@@ -145,7 +129,7 @@ private slots:
 
     void switches()
     {
-        Opened o = openPanel(QStringLiteral("VELBindingSameValue=Off VELBindingBackSize=1.5 VELISSameValue=Off VELISFrontLROption=1 "
+        auto o = openMargin(QStringLiteral("VELBindingSameValue=Off VELBindingBackSize=1.5 VELISSameValue=Off VELISFrontLROption=1 "
                                             "VELISFrontTBSize=0.2"));
         Ui::ManualMarginPDE& u = *o.panel->ui();
         QVERIFY(u.tfBackSideInput->isEnabled() && u.btnBackLeft->isEnabled());
@@ -177,9 +161,8 @@ private slots:
     void nupRule()
     {
         QFETCH(QString, options);
-        Opened o = openPanel(options);
+        auto o = openMargin(options);
         QTEST(o.panel->ui()->pbtMarginfor->currentIndex(), "index");
-        QTEST(o.panel->marginForIndex(), "index");
         QTEST(o.panel->ui()->pbtMarginfor->isEnabled(), "enabled");
         QTEST(o.panel->indexOfMarkedOptionForKey(QStringLiteral("VELMarginFor")), "index");
     }
@@ -207,7 +190,7 @@ private slots:
     {
         QFETCH(QString, options);
         QFETCH(QStringList, expected);
-        Opened o = openPanel(options);
+        auto o = openMargin(options);
         QStringList keys;
         for (int i = 0; i < MRManualMarginPDE::ValueCount; ++i) {
             keys << MRManualMarginPDE::keyOf(MRManualMarginPDE::Value(i));
@@ -244,7 +227,7 @@ private slots:
         QFETCH(QString, printer);
         QFETCH(QString, options);
         QFETCH(QStringList, arrows);
-        Opened o = openPanel(options, false, printer);
+        auto o = openMargin(options, false, printer);
         QWidget* view = o.panel->panelView();
         QTEST(view->findChild<QLabel*>(QStringLiteral("imviewConcept"))->property("imageName").toString(), "image");
         QStringList shown;
@@ -261,9 +244,8 @@ private slots:
     void refused()
     {
         QTemporaryDir dir;
-        auto host = TestSupport::openHost(TestSupport::writePPD(dir, QStringLiteral("plain.ppd"), QString()));
-        QVERIFY(!MRManualMarginPDE::create(host.get(), PDEBundle::embedded()));
-        Opened o = openPanel();
+        QVERIFY(!openPanel<MRManualMarginPDE>(TestSupport::writePPD(dir, QStringLiteral("plain.ppd"), QString())).panel);
+        auto o = openMargin();
         QCOMPARE(o.panel->supportedPPDOptionKeys(), (QStringList{"VELMarginFor", "VELBindingPosition"}));
         QCOMPARE(o.panel->panelKind(), PDEBundle::embedded()->bundleIdentifier());
     }
