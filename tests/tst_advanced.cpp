@@ -2,6 +2,7 @@
 // contract, the watermark, booklet and poster rules, its pictures.
 #include "MRAdvancedOptionPDE.h"
 #include "MRAdvancedUnits.h"
+#include "MRManualDuplexController.h"
 #include "MRPosterController.h"
 #include "PanelHarness.h"
 #include "ui_AdvancedOptionPDE.h"
@@ -226,29 +227,6 @@ private slots:
         QCOMPARE(o.panel->summaryInfo().value(title).toString(), o.panel->getLocalizationWithKey(QStringLiteral("Poster2x2")));
     }
 
-    void creation_data()
-    {
-        QTest::addColumn<QString>("printer");
-        QTest::addColumn<QStringList>("keys");
-        QTest::newRow("c5500") << "velmora-c5500"
-                               << QStringList{"VELWatermarkOption", "VELPosterOption", "VELBookletOption", "VELFoldMethod",
-                                              "VELBookletFinishing", "BookletOutputPageSize", "VELManualBookletOption"};
-        QTest::newRow("m200") << "velmora-m200" << QStringList{"VELWatermarkOption", "VELPosterOption", "VELManualBookletOption"};
-        QTest::newRow("without the options") << "" << QStringList();
-    }
-    void creation()
-    {
-        QFETCH(QString, printer);
-        QTemporaryDir dir;
-        const QString ppd = printer.isEmpty() ? TestSupport::writePPD(dir, QStringLiteral("plain"), QString())
-                                              : TestSupport::samplePPD(printer);
-        auto host = TestSupport::openHost(ppd);
-        auto panel = MRAdvancedOptionPDE::create(host.get(), PDEBundle::embedded());
-        QCOMPARE(panel != nullptr, !printer.isEmpty());
-        if (panel)
-            QTEST(panel->supportedPPDOptionKeys(), "keys");
-    }
-
     // The command line in both measurement systems: lengths are shown in the
     // user's unit and travel in inches.
     void headless_data()
@@ -277,22 +255,27 @@ private slots:
         QTEST(out.split(QLatin1Char('\n')).filter(QStringLiteral("PosterOverlap=")).value(0), "written");
     }
 
-    // Every concept picture the panel can ask for is in the bundle.
+    // Every concept and binding picture the panels can ask for is in the
+    // bundle; other indexes and orientations have none.
     void pictures()
     {
         const std::shared_ptr<PDEBundle> bundle = PDEBundle::embedded();
         QStringList names{"folding_none", "folding_only", "folding_stitch", "itdrvM1", "itdrvM2", "itdrvM3",
                           "gray", "red", "yellow", "green", "cyan", "blue", "magenta"};
-        for (int index = 0; index < 4; ++index)
-            for (bool colour : {false, true})
-                for (const char* orientation : {"1", "2", "3", "4"})
+        for (const char* orientation : {"1", "2", "3", "4"}) {
+            for (int index = 0; index < 4; ++index)
+                for (bool colour : {false, true})
                     names << MRPosterController::conceptPictureName(index, colour, QString::fromLatin1(orientation));
-        QCOMPARE(names.size(), 45);
-        QCOMPARE(QSet<QString>(names.cbegin(), names.cend()).size(), 45);
+            for (int index = 0; index < 3; ++index)
+                names << MRManualDuplexController::bindingPictureName(index, QString::fromLatin1(orientation));
+        }
+        QCOMPARE(QSet<QString>(names.cbegin(), names.cend()).size(), 57);
         for (const QString& name : std::as_const(names))
             QVERIFY2(!bundle->pathForResource(name, QStringLiteral("png")).isEmpty(), qPrintable(name));
         QVERIFY(MRPosterController::conceptPictureName(4, true, QStringLiteral("1")).isNull());
         QVERIFY(MRPosterController::conceptPictureName(1, true, QStringLiteral("5")).isNull());
+        QVERIFY(MRManualDuplexController::bindingPictureName(3, QStringLiteral("1")).isNull());
+        QVERIFY(MRManualDuplexController::bindingPictureName(1, QStringLiteral("5")).isNull());
     }
 };
 

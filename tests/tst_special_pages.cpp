@@ -98,7 +98,6 @@ private slots:
             o.panel->controlTextDidChange(tag);
             QCOMPARE(f->text(), accepted ? typed : QStringLiteral("1,2"));
         }
-        QCOMPARE(MRSpecialPagePDE::isAcceptablePageText(typed), accepted);
     }
 
     // Read, edit, write: the list is kept in page order.
@@ -210,7 +209,6 @@ private slots:
     void booklet()
     {
         QFETCH(QString, value);
-        QTEST(MRSpecialPagePDE::bookletCovers(value), "kept");
         auto o = openSpecial(QStringLiteral("VELBookletOption=Booklet VELSpecialPage='%1'").arg(value));
         QTEST(written(o), "kept");
         Ui::SpecialPagePDE& u = *o.panel->ui();
@@ -277,14 +275,6 @@ private slots:
         o.panel->ui()->btnPageCoverFront->setChecked(true);
         o.panel->actionAdd();
         QVERIFY(o.panel->shouldPrint());
-    }
-
-    void refused()
-    {
-        auto host = TestSupport::openHost(TestSupport::samplePPD(QStringLiteral("velmora-m200")));
-        QVERIFY(!MRSpecialPagePDE::create(host.get(), PDEBundle::embedded()));
-        auto o = openSpecial();
-        QCOMPARE(o.panel->supportedPPDOptionKeys(), QStringList{QStringLiteral("VELPageOption")});
     }
 };
 
