@@ -99,17 +99,13 @@ private slots:
     }
     void contract()
     {
-        QFETCH(bool, metric);
-        QFETCH(QString, options);
         QFETCH(QString, field);
-        QFETCH(QString, typed);
-        QFETCH(QString, key);
-        auto o = openAdvanced(QStringLiteral("velmora-c5500"), options, metric);
+        auto o = openAdvanced(QStringLiteral("velmora-c5500"), cell<QString>("options"), cell<bool>("metric"));
         if (!field.isEmpty())
-            o.panel->panelView()->findChild<QLineEdit*>(field)->setText(typed);
+            o.panel->panelView()->findChild<QLineEdit*>(field)->setText(cell<QString>("typed"));
         o.panel->tabViewDidSelectTabViewItem(1);  // a refresh keeps what is shown
         QVERIFY(o.panel->saveValuesAndReturnError(nullptr));
-        QTEST(o.host->printSettings()->value(key), "written");
+        QTEST(o.host->printSettings()->value(cell<QString>("key")), "written");
     }
 
     void watermarkEnabling_data()
@@ -130,9 +126,8 @@ private slots:
     }
     void watermarkEnabling()
     {
-        QFETCH(QString, printer);
         QFETCH(int, index);
-        auto o = openAdvanced(printer);
+        auto o = openAdvanced(cell<QString>("printer"));
         Ui::AdvancedOptionPDE& u = *o.panel->ui();
         u.WatermarkPopUp->setCurrentIndex(index);
         o.panel->changeWatermarkOption();
@@ -163,8 +158,7 @@ private slots:
     }
     void bookletEnabling()
     {
-        QFETCH(QString, options);
-        auto o = openAdvanced(QStringLiteral("velmora-c5500"), options);
+        auto o = openAdvanced(QStringLiteral("velmora-c5500"), cell<QString>("options"));
         Ui::AdvancedOptionPDE& u = *o.panel->ui();
         QTEST(u.FoldermethodPopup->isEnabled(), "foldMethod");
         QTEST(u.SheetperSetField->isEnabled() && u.SheetStepper->isEnabled(), "sheets");
@@ -187,9 +181,7 @@ private slots:
     }
     void poster()
     {
-        QFETCH(QString, printer);
-        QFETCH(QString, options);
-        auto o = openAdvanced(printer, options);
+        auto o = openAdvanced(cell<QString>("printer"), cell<QString>("options"));
         Ui::AdvancedOptionPDE& u = *o.panel->ui();
         QTEST(u.posterView->property("imageName").toString(), "picture");
         QTEST(u.overlapField->isEnabled(), "overlap");
@@ -239,8 +231,7 @@ private slots:
     }
     void headless()
     {
-        QFETCH(QString, measurement);
-        const QStringList env{"LC_ALL=", "LANG=", "LC_MEASUREMENT=" + measurement};
+        const QStringList env{"LC_ALL=", "LANG=", "LC_MEASUREMENT=" + cell<QString>("measurement")};
         const QStringList options{"-o", "VELPosterOption=Poster2x2 PosterOverlap=0.5"};
         QString out, err;
         QCOMPARE(TestSupport::runApp(QStringList{"--describe"} + options, &out, &err, env), 0);

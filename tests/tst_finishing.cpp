@@ -33,10 +33,9 @@ private slots:
 
     void rowsAndHeight()
     {
-        QFETCH(QString, ppd);
         QFETCH(QStringList, labels);
         QFETCH(bool, folding);
-        auto p = Panel::open(ppd);
+        auto p = Panel::open(cell<QString>("ppd"));
         QVERIFY(p);
         QWidget* view = p->eh->panelView();
         QStringList shown;
@@ -66,7 +65,6 @@ private slots:
     void positionTriggers()
     {
         QFETCH(int, row);
-        QFETCH(QString, on);
         QFETCH(QString, choice);
         auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
@@ -75,7 +73,7 @@ private slots:
         auto* label = p->eh->panelView()->findChild<QLabel*>(QStringLiteral("tab1Label%1").arg(row + 1));
         // Off at first: the position waits for stapling or punching.
         QVERIFY(!position->isEnabled() && !label->isEnabled());
-        pick(trigger, on);
+        pick(trigger, cell<QString>("on"));
         QVERIFY(position->isEnabled() && label->isEnabled());
         pick(trigger, choice);
         QCOMPARE(position->isEnabled() && label->isEnabled(), choice != QLatin1String("Off"));
@@ -97,19 +95,17 @@ private slots:
 
     void folding()
     {
-        QFETCH(QString, ppd);
-        QFETCH(QString, fold);
         QFETCH(QString, kind);
         QFETCH(QStringList, patterns);
         QFETCH(int, maximum);
-        auto p = Panel::open(ppd);
+        auto p = Panel::open(cell<QString>("ppd"));
         QVERIFY(p);
         auto& f = *p->controller->foldingOptionsViewController()->ui();
         QWidget* view = p->eh->panelView();
         const int collapsed = view->height();
         QVERIFY(!f._foldingPatternPopUpButton->isVisibleTo(view));
 
-        pick(f._foldingOptionsPopUpButton, fold);
+        pick(f._foldingOptionsPopUpButton, cell<QString>("fold"));
         // Folding starts with the first real pattern, its picture and one set.
         QCOMPARE(p->value(kind + "FoldingPattern"), patterns[0]);
         QCOMPARE(f._foldingOptionsImageView->property("imageName").toString(), patterns[1]);

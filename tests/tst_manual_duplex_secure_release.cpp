@@ -99,8 +99,7 @@ private slots:
     void bindingPicture()
     {
         QFETCH(QString, printer);
-        QFETCH(QString, options);
-        auto o = open<MRManualDuplexPDE>(printer, options);
+        auto o = open<MRManualDuplexPDE>(printer, cell<QString>("options"));
         Ui::ManualDuplexPDE& u = *o.panel->ui();
         QTEST(u.ManualDuplexView->property("imageName").toString(), "picture");
         QVERIFY(!u.ManualDuplexView->pixmap().isNull());
@@ -129,11 +128,9 @@ private slots:
     }
     void rules()
     {
-        QFETCH(QString, printer);
-        QFETCH(QString, options);
         QFETCH(QString, laterCopies);
         QFETCH(QString, choice);
-        auto o = open<MRManualDuplexPDE>(printer, options);
+        auto o = open<MRManualDuplexPDE>(cell<QString>("printer"), cell<QString>("options"));
         if (!laterCopies.isEmpty()) {
             o.host->printSettings()->setValue(QStringLiteral("copies"), laterCopies);
             emit o.host->update();
@@ -166,18 +163,15 @@ private slots:
     }
     void userID()
     {
-        QFETCH(QString, printer);
-        QFETCH(QString, options);
         QFETCH(int, pick);
-        QFETCH(QString, typed);
         QFETCH(QString, printed);
-        auto o = open<MRSecureReleasePDE>(printer, options);
+        auto o = open<MRSecureReleasePDE>(cell<QString>("printer"), cell<QString>("options"));
         Ui::SecureReleasePDE& u = *o.panel->ui();
         if (pick >= 0) {
             u.PSSPopup->setCurrentIndex(pick);
             o.panel->changepssOption();
         }
-        QTest::keyClicks(u.UserIDBox, typed);
+        QTest::keyClicks(u.UserIDBox, cell<QString>("typed"));
         QTEST(u.UserIDBox->isEnabled(), "enabled");
         QCOMPARE(u.UserIDBox->text(), printed);
         QCOMPARE(u.PSSPopup->currentIndex(), o.marked(kSecureReleaseKey) == "On" ? 1 : 0);

@@ -64,16 +64,13 @@ private slots:
     }
     void typedInput()
     {
-        QFETCH(bool, metric);
         QFETCH(int, tag);
-        QFETCH(QString, typed);
-        QFETCH(QString, stored);
-        auto o = openMargin(QStringLiteral("VELBindingSameValue=Off VELISSameValue=Off"), metric);
+        auto o = openMargin(QStringLiteral("VELBindingSameValue=Off VELISSameValue=Off"), cell<bool>("metric"));
         QLineEdit* f = field(*o.panel, tag);
         QVERIFY(f);
-        f->setText(typed);
+        f->setText(cell<QString>("typed"));
         o.panel->controlTextDidChange(tag);
-        QCOMPARE(o.panel->value(kValueOfTag[tag]), stored);
+        QTEST(o.panel->value(kValueOfTag[tag]), "stored");
         QTEST(f->text(), "shown");
     }
 
@@ -113,9 +110,8 @@ private slots:
     void steppersAndSameValue()
     {
         QFETCH(bool, metric);
-        QFETCH(QString, options);
         QFETCH(int, tag);
-        auto o = openMargin(options, metric);
+        auto o = openMargin(cell<QString>("options"), metric);
         Ui::ManualMarginPDE& u = *o.panel->ui();
         PDEStepper* stepper = tag == 1 ? u.stepFrontSide : tag == 3 ? u.stepFrontSideImgShift1 : u.stepFrontSideImgShift2;
         stepper->stepUp();
@@ -157,8 +153,7 @@ private slots:
     }
     void nupRule()
     {
-        QFETCH(QString, options);
-        auto o = openMargin(options);
+        auto o = openMargin(cell<QString>("options"));
         QTEST(o.panel->ui()->pbtMarginfor->currentIndex(), "index");
         QTEST(o.panel->ui()->pbtMarginfor->isEnabled(), "enabled");
         QTEST(o.panel->indexOfMarkedOptionForKey(QStringLiteral("VELMarginFor")), "index");
@@ -185,9 +180,7 @@ private slots:
     }
     void written()
     {
-        QFETCH(QString, options);
-        QFETCH(QStringList, expected);
-        auto o = openMargin(options);
+        auto o = openMargin(cell<QString>("options"));
         QStringList keys;
         for (int i = 0; i < MRManualMarginPDE::ValueCount; ++i) {
             keys << MRManualMarginPDE::keyOf(MRManualMarginPDE::Value(i));
@@ -199,7 +192,7 @@ private slots:
             if (keys.contains(k))
                 written << k + QLatin1Char('=') + v;
         written.sort();
-        QCOMPARE(written, expected);
+        QTEST(written, "expected");
     }
 
     void conceptPicture_data()
@@ -221,10 +214,9 @@ private slots:
     }
     void conceptPicture()
     {
-        QFETCH(QString, printer);
         QFETCH(QString, options);
         QFETCH(QStringList, arrows);
-        auto o = openMargin(options, false, printer);
+        auto o = openMargin(options, false, cell<QString>("printer"));
         QWidget* view = o.panel->panelView();
         QTEST(view->findChild<QLabel*>(QStringLiteral("imviewConcept"))->property("imageName").toString(), "image");
         QStringList shown;

@@ -56,7 +56,6 @@ private slots:
     void userID()
     {
         QFETCH(QString, release);
-        QFETCH(QString, typed);
         QFETCH(QString, expected);
         auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
@@ -67,7 +66,7 @@ private slots:
         QCOMPARE(u.secureTrueTextField->isEnabled() && u.secureTrueUserIDLabel->isEnabled(), release == QLatin1String("On"));
         if (!u.secureTrueTextField->isEnabled())
             return;
-        type(u.secureTrueTextField, typed);
+        type(u.secureTrueTextField, cell<QString>("typed"));
         QCOMPARE(u.secureTrueTextField->text(), expected);
         QCOMPARE(p->value("PSSUSERID"), expected);
     }
@@ -107,7 +106,6 @@ private slots:
     void watermarkDefaults()
     {
         QFETCH(QString, text);
-        QFETCH(QStringList, settings);
         auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
         pick(p->controller->ui()->hardCopySecurityPopUpButton, QStringLiteral("Secure Watermark"));
@@ -126,7 +124,7 @@ private slots:
         QStringList now;
         for (const char* key : {"SWMSIZE", "SWMDIRECTION", "SWMPATTERN", "SWMCOLOR", "SWMDARKNESS"})
             now << p->value(QString::fromLatin1(key));
-        QCOMPARE(now, settings);
+        QTEST(now, "settings");
         // The custom text is for "Custom" only.
         QCOMPARE(w.watermarkMessageField->isEnabled(), custom);
     }
@@ -145,9 +143,6 @@ private slots:
 
     void passwordCheck()
     {
-        QFETCH(QString, mode);
-        QFETCH(QString, enter);
-        QFETCH(QString, confirm);
         QFETCH(bool, saved);
         auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
@@ -155,9 +150,9 @@ private slots:
         pick(u.hardCopySecurityPopUpButton, QStringLiteral("Password Job"));
         auto& pw = *p->controller->hardCopySecurityController()->passwordJobUi();
         QCOMPARE(pw.hardCopyEnterPasswordRangeLabel->text(), QStringLiteral("(1-9 Alphanumeric)"));
-        type(pw.hardCopyEnterPasswordField, enter);
-        type(pw.hardCopyConfirmPasswordField, confirm);
-        pick(u.hardCopySecurityPopUpButton, mode);
+        type(pw.hardCopyEnterPasswordField, cell<QString>("enter"));
+        type(pw.hardCopyConfirmPasswordField, cell<QString>("confirm"));
+        pick(u.hardCopySecurityPopUpButton, cell<QString>("mode"));
         u.m_tabView->setCurrentWidget(u.tabViewItemSecurity);
 
         QStringList alerts;
@@ -192,11 +187,10 @@ private slots:
     {
         QFETCH(QString, ppd);
         QFETCH(QString, language);
-        QFETCH(QString, message);
         const QStringList args{"--ppd", ppd, "--print-options", "-o", "VELHardCopySecurity=Password HCSEnterPassword=abc1 HCSConfirmPassword=abc2"};
         QString out, err;
         QCOMPARE(TestSupport::runApp(args, &out, &err, {"LANG=" + language, "LC_ALL=" + language, "LANGUAGE=" + language.left(2)}), 3);
-        QVERIFY2(err.contains(message), qPrintable(err));
+        QVERIFY2(err.contains(cell<QString>("message")), qPrintable(err));
         QVERIFY(!err.contains(QStringLiteral("abc1")) && !err.contains(QStringLiteral("abc2")));
     }
 };

@@ -12,8 +12,8 @@
 #include "MRSheetPerSetFormatter.h"
 #include "MRSheetPerSetTextField.h"
 #include "PDEStepper.h"
+#include "TestSupport.h"
 
-#include <QTest>
 #include <memory>
 
 namespace {
@@ -91,11 +91,9 @@ private slots:
     }
     void formatters()
     {
-        QFETCH(QString, name);
-        QFETCH(bool, metric);
         QFETCH(QString, text);
         QFETCH(bool, accepted);
-        auto f = formatter(name, metric);
+        auto f = formatter(cell<QString>("name"), cell<bool>("metric"));
         QCOMPARE(f->isPartialStringValid(text), accepted);
         QString input = text;
         int pos = int(text.size());
@@ -128,9 +126,6 @@ private slots:
     {
         QFETCH(QString, name);
         QFETCH(bool, metric);
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
-        QFETCH(int, stepper);
         auto f = field(name, metric);
         PDEStepper companion;
         companion.setRange(-1000, 1000);
@@ -140,10 +135,10 @@ private slots:
         f->show();
         f->setFocus();
         f->selectAll();
-        QTest::keyClicks(f.get(), typed);
+        QTest::keyClicks(f.get(), cell<QString>("typed"));
         QTest::keyClick(f.get(), Qt::Key_Return);
-        QCOMPARE(f->text(), shown);
-        QCOMPARE(companion.value(), stepper);
+        QTEST(f->text(), "shown");
+        QTEST(companion.value(), "stepper");
     }
 };
 
