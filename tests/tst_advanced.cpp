@@ -47,13 +47,11 @@ private slots:
     void escapes()
     {
         QFETCH(QString, text);
-        QFETCH(QString, wire);
-        QCOMPARE(MRAdvancedOptionPDE::escapeWatermarkText(text), wire);
         // Through the print settings and the panel's field, in both directions.
         auto o = openAdvanced(QStringLiteral("velmora-c5500"));
         o.panel->ui()->watermarkMessageField->setText(text);
         o.panel->saveValuesAndReturnError(nullptr);
-        QCOMPARE(o.host->printSettings()->value(kNSWatermarkCustomeStrKey), wire);
+        QTEST(o.host->printSettings()->value(kNSWatermarkCustomeStrKey), "wire");
         o.panel->ui()->watermarkMessageField->clear();
         o.panel->restoreValuesAndReturnError(nullptr);
         QCOMPARE(o.panel->ui()->watermarkMessageField->text(), text);

@@ -138,7 +138,6 @@ private slots:
         Ui::ManualDuplexPDE& u = *o.panel->ui();
         QTEST(u.ManualDuplexPopup->isEnabled(), "enabled");
         QCOMPARE(o.marked(kManualDuplexKey), choice);
-        QCOMPARE(o.panel->manualduplexSelection()->ppdTitle(), choice);
         QCOMPARE(u.ManualDuplexPopup->currentIndex(), int(o.panel->manualduplexChoices().indexOf(o.panel->manualduplexSelection())));
         const QVariantMap summary = o.panel->summaryInfo();
         QCOMPARE(summary.value(o.panel->getLocalizationWithKey(QStringLiteral("ManualDuplex"))).toString(),

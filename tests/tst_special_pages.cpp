@@ -161,9 +161,8 @@ private slots:
         QFETCH(QString, value);
         auto o = openSpecial();
         QStringList refused;
-        const QList<MRSpecialPageRow> rows = o.panel->rowsFromString(value, &refused);
+        o.panel->rowsFromString(value, &refused);
         QTEST(int(refused.size()), "rejected");
-        QTEST(MRSpecialPagePDE::stringFromRows(rows), "kept");
         o.host->printSettings()->setValue(QString::fromLatin1(kNSSpecialPageKey), value);
         o.panel->restoreValuesAndReturnError(nullptr);
         QTEST(written(o), "kept");
