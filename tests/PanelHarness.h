@@ -41,6 +41,35 @@ struct PanelHarness {
     }
 };
 
+// A standalone panel on a host with job options, restored and shown as the
+// dialog does; setUp runs on the panel before it is restored.
+template <class P>
+struct Opened {
+    std::unique_ptr<PrintDialogHost> host;
+    std::shared_ptr<P> panel;
+    QString marked(const QString& key) const
+    {
+        for (const auto& [k, v] : host->jobOptions())
+            if (k == key)
+                return v;
+        return QString();
+    }
+};
+template <class P, class F = void (*)(P&)>
+Opened<P> openPanel(const QString& ppd, const QString& options = {}, F setUp = [](P&) {})
+{
+    Opened<P> o{TestSupport::openHost(ppd), nullptr};
+    QString error;
+    if (o.host && !options.isEmpty() && !o.host->applyOptions(options, &error))
+        qWarning("%s", qPrintable(error));
+    if (o.host && (o.panel = P::create(o.host.get(), PDEBundle::embedded()))) {
+        setUp(*o.panel);
+        o.panel->restoreValuesAndReturnError(nullptr);
+        o.panel->willShow();
+    }
+    return o;
+}
+
 // Picks an item with the keyboard, from the top: each item passed is chosen on the way.
 inline void pick(QComboBox* box, const QString& title)
 {

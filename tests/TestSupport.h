@@ -7,6 +7,7 @@
 #include <QSet>
 #include <QString>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QVariantMap>
 #include <memory>
 
@@ -96,3 +97,10 @@ private:
     PrintDialogHost* m_host;
     QSet<Operation> m_missing;
 };
+
+// The current data row's value in a column, for a column read once.
+template <class T>
+T cell(const char* column)
+{
+    return *static_cast<T*>(QTest::qData(column, qMetaTypeId<T>()));
+}
