@@ -1,4 +1,9 @@
 #include "MRPDEMainBaseController.h"
+#include <QDateTimeEdit>
+#include <QLineEdit>
+#include <QLabel>
+#include <QCheckBox>
+#include <QComboBox>
 
 #include "PDELog.h"
 #include "PDEPluginCallback.h"
@@ -100,6 +105,21 @@ void MRPDEMainBaseController::tabViewDidSelectTabViewItem(QTabWidget* tabView, i
 std::optional<int> MRPDEMainBaseController::totalHeightOfActiveViewContentRowsInTabViewItem(QWidget*)
 {
     return std::nullopt;
+}
+
+int MRPDEMainBaseController::bottomOfVisibleRows(QWidget* page)
+{
+    int bottom = 0;
+    if (!page)
+        return bottom;
+    for (QWidget* w : page->findChildren<QWidget*>()) {
+        if (w->objectName().isEmpty() || !w->isVisibleTo(page))
+            continue;
+        if (qobject_cast<QComboBox*>(w) || qobject_cast<QCheckBox*>(w) || qobject_cast<QLabel*>(w) || qobject_cast<QLineEdit*>(w)
+            || qobject_cast<QDateTimeEdit*>(w))
+            bottom = std::max(bottom, w->mapTo(page, QPoint(0, 0)).y() + w->height());
+    }
+    return bottom;
 }
 
 bool MRPDEMainBaseController::isEverythingAlright()

@@ -59,6 +59,9 @@ public:
 
     // Panels with tabs answer the height of a tab's visible rows.
     virtual std::optional<int> totalHeightOfActiveViewContentRowsInTabViewItem(QWidget* tabPage);
+    // Where a page's rows end: the bottom of its lowest named control (pop-up,
+    // check box, label, text field, date) that the panel lets show; 0 for none.
+    static int bottomOfVisibleRows(QWidget* page);
     // Whether the panel's entries are valid for saving; base: yes.
     virtual bool isEverythingAlright();
     // Panels with print checks answer true here and check in shouldPrint().

@@ -142,11 +142,7 @@ std::optional<int> MRPDESecurityPanelController::totalHeightOfActiveViewContentR
         return kHardCopyModeRowHeight;
     }
     // The Security tab: down to the lowest control that shows.
-    int bottom = 0;
-    for (QWidget* w : tabPage->findChildren<QWidget*>())
-        if (!w->objectName().isEmpty() && w->isVisibleTo(tabPage) && (qobject_cast<QLabel*>(w) || w->inherits("QComboBox") || w->inherits("QLineEdit")))
-            bottom = std::max(bottom, w->mapTo(tabPage, QPoint(0, 0)).y() + w->height());
-    return bottom;
+    return bottomOfVisibleRows(tabPage);
 }
 
 void MRPDESecurityPanelController::selectHardCopySecurityTabViewitem()

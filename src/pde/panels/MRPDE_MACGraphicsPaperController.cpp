@@ -375,17 +375,5 @@ int MRPDE_MACGraphicsPaperController::yOriginAfterRecomputingForPreferredColorVi
 
 std::optional<int> MRPDE_MACGraphicsPaperController::totalHeightOfActiveViewContentRowsInTabViewItem(QWidget* tabPage)
 {
-    if (!tabPage)
-        return 0;
-    // The rows end with the lowest control that the panel lets show.
-    int bottom = 0;
-    for (QWidget* w : tabPage->findChildren<QWidget*>()) {
-        if (w->objectName().isEmpty() || !w->isVisibleTo(tabPage))
-            continue;
-        if (qobject_cast<QComboBox*>(w) || qobject_cast<QCheckBox*>(w) || qobject_cast<QLabel*>(w)) {
-            const QPoint topLeft = w->mapTo(tabPage, QPoint(0, 0));
-            bottom = std::max(bottom, topLeft.y() + w->height());
-        }
-    }
-    return bottom;
+    return bottomOfVisibleRows(tabPage);
 }

@@ -488,19 +488,8 @@ void MRPDE_MACJobHandlingPDEController::observeValueForKeyPath(MRPDE_MACFeature*
 
 std::optional<int> MRPDE_MACJobHandlingPDEController::totalHeightOfActiveViewContentRowsInTabViewItem(QWidget* tabPage)
 {
-    if (!tabPage)
-        return 0;
     // The rows end with the lowest control that shows, sub-view included.
-    int bottom = 0;
-    for (QWidget* w : tabPage->findChildren<QWidget*>()) {
-        if (w->objectName().isEmpty() || !w->isVisibleTo(tabPage))
-            continue;
-        if (qobject_cast<QComboBox*>(w) || qobject_cast<QLabel*>(w) || qobject_cast<QLineEdit*>(w) || qobject_cast<QDateTimeEdit*>(w)) {
-            const QPoint topLeft = w->mapTo(tabPage, QPoint(0, 0));
-            bottom = std::max(bottom, topLeft.y() + w->height());
-        }
-    }
-    return bottom;
+    return bottomOfVisibleRows(tabPage);
 }
 
 void MRPDE_MACJobHandlingPDEController::selectTabViewItemLater(QWidget* tabPage)
