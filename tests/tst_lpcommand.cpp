@@ -58,8 +58,7 @@ private slots:
     void initTestCase()
     {
         QFile lp(m_bin.filePath(QStringLiteral("lp")));
-        QVERIFY(lp.open(QIODevice::WriteOnly));
-        lp.write("#!/bin/sh\nfor a in \"$@\"; do printf '%s\\0' \"$a\"; done\n");
+        QVERIFY(lp.open(QIODevice::WriteOnly) && lp.write("#!/bin/sh\nfor a in \"$@\"; do printf '%s\\0' \"$a\"; done\n") > 0);
         lp.close();
         QVERIFY(lp.setPermissions(QFile::ReadOwner | QFile::ExeOwner));
     }

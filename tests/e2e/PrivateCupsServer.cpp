@@ -95,9 +95,8 @@ bool PrivateCupsServer::start(QString* error)
     for (const QString& kv : clientEnvironment())
         qputenv(kv.section(QLatin1Char('='), 0, 0).toUtf8(), kv.section(QLatin1Char('='), 1).toUtf8());
     cupsSetServer(address().toUtf8().constData());
-    QDir root(m_dir->path());
     for (const char* d : {"etc", "spool/tmp", "cache", "state", "log", "bin/backend", "capture", "client"})
-        root.mkpath(QString::fromLatin1(d));
+        QDir(m_dir->path()).mkpath(QString::fromLatin1(d));
     // lp passes through to its backend and capture folders; the client folder is private.
     const auto rwx = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
     const auto rx = QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther;
@@ -147,10 +146,8 @@ void PrivateCupsServer::stop()
     if (!isRunning())
         return;
     m_cupsd.terminate();  // our own cupsd, by its process id
-    if (!m_cupsd.waitForFinished(10000)) {
-        m_cupsd.kill();
-        m_cupsd.waitForFinished(3000);
-    }
+    if (!m_cupsd.waitForFinished(10000))
+        m_cupsd.kill(), m_cupsd.waitForFinished(3000);
 }
 
 bool PrivateCupsServer::runClient(const QString& program, const QStringList& arguments, QString* output) const
@@ -178,12 +175,10 @@ bool PrivateCupsServer::addQueue(const QString& name, const QString& ppdPath, QS
         return false;
     }
     QString output;
-    if (runClient(QStringLiteral("lpadmin"), {QStringLiteral("-p"), name, QStringLiteral("-E"), QStringLiteral("-v"),
-                                              QStringLiteral("capture:") + dir, QStringLiteral("-P"), ppdPath},
-                  &output))
-        return true;
-    *error = QStringLiteral("lpadmin failed: %1").arg(output.trimmed());
-    return false;
+    const bool ok = runClient(QStringLiteral("lpadmin"), {"-p", name, "-E", "-v", QStringLiteral("capture:") + dir, "-P", ppdPath}, &output);
+    if (!ok)
+        *error = QStringLiteral("lpadmin failed: %1").arg(output.trimmed());
+    return ok;
 }
 
 bool PrivateCupsServer::waitForJob(const QString& queue, int id, CapturedJob* job, int timeoutMs) const
@@ -214,11 +209,10 @@ QString PrivateCupsServer::jobAttribute(int jobId, const QString& name, const QS
 {
     http_t* http = httpConnect2("127.0.0.1", m_port, nullptr, AF_INET, HTTP_ENCRYPTION_NEVER, 1, 10000, nullptr);
     if (!http)
-        return QString();
-    char uri[HTTP_MAX_URI];
-    httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "127.0.0.1", m_port, "/jobs/%d", jobId);
+        return {};
+    const QByteArray uri = QStringLiteral("ipp://127.0.0.1:%1/jobs/%2").arg(m_port).arg(jobId).toUtf8();
     ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri);
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
                  user.isEmpty() ? cupsUser() : user.toUtf8().constData());
     ipp_t* response = cupsDoRequest(http, request, "/");
