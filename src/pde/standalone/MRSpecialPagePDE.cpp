@@ -6,7 +6,7 @@
 #include "PDEPluginCallback.h"
 #include "PMPageFormat.h"
 #include "PMPrintSettings.h"
-#include "ui_SpecialPagePDE.h"
+#include "ui_PageListPDE.h"
 
 #include <QHeaderView>
 #include <QItemSelectionModel>
@@ -86,7 +86,7 @@ MRSpecialPagePDE::MRSpecialPagePDE(PDEPluginCallback* callback, std::shared_ptr<
     m_paperSourceChoices = SpecialPageArrayFromPPDOption(m_paperSourceOption).value_or(MRPDEChoiceArray());
     m_paperTypeChoices = SpecialPageArrayFromPPDOption(m_paperTypeOption).value_or(MRPDEChoiceArray());
     m_optionalTrayChoices = SpecialPageArrayFromPPDOption(m_optionalTrayOption).value_or(MRPDEChoiceArray());
-    m_model = new MRSpecialPageTableModel([this](const MRSpecialPageRow& row, int column) { return cellText(row, column); }, this);
+    m_model = new MRPageListTableModel([this](const MRSpecialPageRow& row, int column) { return cellText(row, column); }, this);
     loadConstraint();
     updateMarkedSelections();
 }
@@ -120,11 +120,11 @@ QWidget* MRSpecialPagePDE::panelView()
 {
     if (m_viewPDE)
         return m_viewPDE;
-    m_ui = std::make_unique<Ui::SpecialPagePDE>();
+    m_ui = std::make_unique<Ui::PageListPDE>();
     auto* view = new QWidget;
     m_ui->setupUi(view);
     m_viewPDE = view;
-    Ui::SpecialPagePDE& u = *m_ui;
+    Ui::PageListPDE& u = *m_ui;
     u.tableUserSetting->setModel(m_model);
     u.tableUserSetting->setSelectionBehavior(QAbstractItemView::SelectRows);
     u.tableUserSetting->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -163,7 +163,7 @@ void MRSpecialPagePDE::initializeUI()
 {
     if (hasInited() || !m_ui)
         return;
-    Ui::SpecialPagePDE& u = *m_ui;
+    Ui::PageListPDE& u = *m_ui;
     const auto tr = [this](const char* key) { return getLocalizationWithKey(QString::fromLatin1(key)); };
     const auto label = [&](const char* key) { return QStringLiteral("%1:").arg(tr(key)); };
     u.viewPageOption->setTitle(tr("Page Options"));
@@ -568,7 +568,7 @@ QList<MRSpecialPageRow> MRSpecialPagePDE::makeDicForCurrentSelect() const
     QList<MRSpecialPageRow> rows;
     if (!m_ui)
         return rows;
-    const Ui::SpecialPagePDE& u = *m_ui;
+    const Ui::PageListPDE& u = *m_ui;
     const auto keyword = [](QComboBox* popUp) {
         const std::shared_ptr<MRPDEChoice> choice = PDEItemChoice(popUp, popUp->currentIndex());
         return choice ? choice->ppdTitle() : QString();
@@ -799,7 +799,7 @@ void MRSpecialPagePDE::tableViewSelectionDidChange()
 // from them.
 void MRSpecialPagePDE::showRowInControls(const MRSpecialPageRow& row)
 {
-    Ui::SpecialPagePDE& u = *m_ui;
+    Ui::PageListPDE& u = *m_ui;
     const QString type = row.value(kPageType);
     const QString page = row.value(kPage);
     u.pbtPageOption->setCurrentIndex(type == kCover ? 0 : type == kInsert ? 1 : 2);
@@ -833,7 +833,7 @@ void MRSpecialPagePDE::actionPageOption()
 
 void MRSpecialPagePDE::showPageOption()
 {
-    Ui::SpecialPagePDE& u = *m_ui;
+    Ui::PageListPDE& u = *m_ui;
     const int index = u.pbtPageOption->currentIndex();
     u.viewPageCover->setVisible(index == 0);
     u.viewCoverOption->setVisible(index == 0);
@@ -847,7 +847,7 @@ void MRSpecialPagePDE::updatePictures()
 {
     if (!m_ui)
         return;
-    Ui::SpecialPagePDE& u = *m_ui;
+    Ui::PageListPDE& u = *m_ui;
     const PDEBundle* bundle = pluginBundle().get();
     const int index = u.pbtPageOption->currentIndex();
     QString page = index == 1 ? QStringLiteral("insert") : index == 2 ? QStringLiteral("transparency") : QString();
@@ -961,7 +961,7 @@ void MRSpecialPagePDE::updateUI()
 {
     if (!hasInited())
         return;
-    Ui::SpecialPagePDE& u = *m_ui;
+    Ui::PageListPDE& u = *m_ui;
     const int index = m_pageOptionSelection ? int(m_pageOptionChoices.indexOf(m_pageOptionSelection)) : 0;
     if (index >= 0 && index < u.pbtPageOption->count())
         u.pbtPageOption->setCurrentIndex(index);
@@ -975,7 +975,7 @@ void MRSpecialPagePDE::updateUIDependency()
 {
     if (!m_ui)
         return;
-    Ui::SpecialPagePDE& u = *m_ui;
+    Ui::PageListPDE& u = *m_ui;
     const bool suppressed = isListSuppressed();
     m_model->setSuppressed(suppressed);
     // While a feature that excludes special pages is on, nothing can be edited.

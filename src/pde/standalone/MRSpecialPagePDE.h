@@ -1,5 +1,5 @@
 #pragma once
-#include "MRSpecialPageTableModel.h"
+#include "MRPageListTableModel.h"
 #include "MRStandalonePDE.h"
 #include "PDEChoiceList.h"
 
@@ -7,11 +7,10 @@
 #include <memory>
 
 namespace Ui {
-class SpecialPagePDE;
+class PageListPDE;
 }
 struct ppd_option_s;
 
-inline constexpr char kSpecialPageNibName[] = "SpecialPagePDE";
 inline constexpr char kSpecialPagePanelNameKey[] = "SpecialPagePanelName";
 inline constexpr char kSpecialPageHelpPage[] = "SpecialPagePDEHelp.html";
 // The print-settings key of the list.
@@ -156,8 +155,8 @@ public:
 
     std::shared_ptr<MRPDEChoice> pageOptionSelection() const { return m_pageOptionSelection; }
     bool bHidded() const { return m_bHidded; }
-    Ui::SpecialPagePDE* ui() const { return m_ui.get(); }
-    MRSpecialPageTableModel* model() const { return m_model; }
+    Ui::PageListPDE* ui() const { return m_ui.get(); }
+    MRPageListTableModel* model() const { return m_model; }
 
 protected:
     MRSpecialPagePDE(PDEPluginCallback* callback, std::shared_ptr<PDEBundle> bundle);
@@ -198,7 +197,7 @@ private:
     QStringList m_supportedOptions;
     bool m_bHidded = true;
 
-    std::unique_ptr<Ui::SpecialPagePDE> m_ui;
+    std::unique_ptr<Ui::PageListPDE> m_ui;
     QPointer<QWidget> m_viewPDE;
-    MRSpecialPageTableModel* m_model = nullptr;
+    MRPageListTableModel* m_model = nullptr;
 };

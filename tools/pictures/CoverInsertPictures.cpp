@@ -49,7 +49,7 @@ void coverSheet(QPainter& p, const QRectF& c, int printedSides)
         printedLines(p, front, 4);
 }
 
-QList<PictureSpec> specialPagePictures()
+QList<PictureSpec> coverInsertPictures()
 {
     QList<PictureSpec> specs{
         {"cover_front", kPicture, [](QPainter& p, const QRectF& r) { stack(p, r, 5, {0}); }},
@@ -64,5 +64,5 @@ QList<PictureSpec> specialPagePictures()
     return specs;
 }
 
-const PictureRegistrar registrar(&specialPagePictures);
+const PictureRegistrar registrar(&coverInsertPictures);
 }

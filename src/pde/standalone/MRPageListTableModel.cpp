@@ -1,20 +1,20 @@
-#include "MRSpecialPageTableModel.h"
+#include "MRPageListTableModel.h"
 
 #include "PDELog.h"
 
-MRSpecialPageTableModel::MRSpecialPageTableModel(CellText cellText, QObject* parent)
+MRPageListTableModel::MRPageListTableModel(CellText cellText, QObject* parent)
     : QAbstractTableModel(parent), m_cellText(std::move(cellText))
 {
 }
 
-void MRSpecialPageTableModel::setRows(const QList<MRSpecialPageRow>& rows)
+void MRPageListTableModel::setRows(const QList<MRSpecialPageRow>& rows)
 {
     beginResetModel();
     m_rows = rows;
     endResetModel();
 }
 
-void MRSpecialPageTableModel::setSuppressed(bool suppressed)
+void MRPageListTableModel::setSuppressed(bool suppressed)
 {
     if (suppressed == m_suppressed)
         return;
@@ -23,13 +23,13 @@ void MRSpecialPageTableModel::setSuppressed(bool suppressed)
     endResetModel();
 }
 
-void MRSpecialPageTableModel::setHeaders(const QStringList& headers)
+void MRPageListTableModel::setHeaders(const QStringList& headers)
 {
     m_headers = headers;
     emit headerDataChanged(Qt::Horizontal, 0, kColumns - 1);
 }
 
-int MRSpecialPageTableModel::rowCount(const QModelIndex& parent) const
+int MRPageListTableModel::rowCount(const QModelIndex& parent) const
 {
     if (parent.isValid())
         return 0;
@@ -40,19 +40,19 @@ int MRSpecialPageTableModel::rowCount(const QModelIndex& parent) const
     return int(m_rows.size());
 }
 
-int MRSpecialPageTableModel::columnCount(const QModelIndex& parent) const
+int MRPageListTableModel::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : kColumns;
 }
 
-QVariant MRSpecialPageTableModel::data(const QModelIndex& index, int role) const
+QVariant MRPageListTableModel::data(const QModelIndex& index, int role) const
 {
     if (role != Qt::DisplayRole || !index.isValid() || m_suppressed || index.row() >= m_rows.size())
         return QVariant();
     return m_cellText ? m_cellText(m_rows[index.row()], index.column()) : QString();
 }
 
-QVariant MRSpecialPageTableModel::headerData(int section, Qt::Orientation orientation, int role) const
+QVariant MRPageListTableModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (role == Qt::DisplayRole && orientation == Qt::Horizontal && section < m_headers.size())
         return m_headers[section];

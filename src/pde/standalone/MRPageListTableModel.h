@@ -12,13 +12,13 @@ using MRSpecialPageRow = QMap<QString, QString>;
 // The special-pages table: its rows are the panel's list; the texts of its
 // cells come from the panel. While the list is suppressed (a feature that
 // excludes special pages is on) the table shows no rows, and the list is kept.
-class MRSpecialPageTableModel : public QAbstractTableModel {
+class MRPageListTableModel : public QAbstractTableModel {
     Q_OBJECT
 public:
     using CellText = std::function<QString(const MRSpecialPageRow& row, int column)>;
     static constexpr int kColumns = 2;
 
-    explicit MRSpecialPageTableModel(CellText cellText, QObject* parent = nullptr);
+    explicit MRPageListTableModel(CellText cellText, QObject* parent = nullptr);
 
     const QList<MRSpecialPageRow>& rows() const { return m_rows; }
     void setRows(const QList<MRSpecialPageRow>& rows);

@@ -5,7 +5,7 @@
 #include "MRSpecialPagePDE.h"
 #include "PDEAlerts.h"
 #include "PanelHarness.h"
-#include "ui_SpecialPagePDE.h"
+#include "ui_PageListPDE.h"
 
 #include <QStandardItemModel>
 #include <cups/ppd.h>
@@ -104,7 +104,7 @@ private slots:
         auto o = openSpecial(QStringLiteral("VELSpecialPage='%1'").arg(kList));
         QCOMPARE(o.panel->arrayPageTable().size(), 4);
         QCOMPARE(written(o), kList);
-        Ui::SpecialPagePDE& u = *o.panel->ui();
+        Ui::PageListPDE& u = *o.panel->ui();
         // Both covers at once: two rows, replacing the covers present.
         u.pbtPageOption->setCurrentIndex(0);
         u.btnPageCoverBoth->setChecked(true);
@@ -205,7 +205,7 @@ private slots:
     {
         auto o = openSpecial(QStringLiteral("VELBookletOption=Booklet VELSpecialPage='%1'").arg(cell<QString>("value")));
         QTEST(written(o), "kept");
-        Ui::SpecialPagePDE& u = *o.panel->ui();
+        Ui::PageListPDE& u = *o.panel->ui();
         QVERIFY(!u.pbtPageOption->isEnabled() && !u.btnPageCoverFront->isEnabled() && !u.btnCoverOption1side->isEnabled());
         QVERIFY(u.btnPageCoverBoth->isChecked() && u.btnCoverOption2side->isEnabled());
         QCOMPARE(u.imviewPageOption->property("imageName").toString(), QStringLiteral("cover_same"));
@@ -227,7 +227,7 @@ private slots:
     {
         QFETCH(QString, source);
         auto o = openSpecial(cell<QString>("options"));
-        Ui::SpecialPagePDE& u = *o.panel->ui();
+        Ui::PageListPDE& u = *o.panel->ui();
         QTEST(disabledItems(u.pbtPaperOptionSource), "sources");
         u.pbtPaperOptionType->setCurrentIndex(u.pbtPaperOptionType->findText(QStringLiteral("Envelope")));
         u.pbtPaperOptionSource->setCurrentIndex(int(FindPPDIndex(source, SpecialPageArrayFromPPDOption(ppdFindOption(o.host->ppd(), "InputSlot")).value())));
@@ -272,4 +272,4 @@ private slots:
 };
 
 QTEST_MAIN(SpecialPagesTest)
-#include "tst_special_pages.moc"
+#include "tst_page_list.moc"
