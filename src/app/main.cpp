@@ -1,3 +1,4 @@
+#include "CloseAfterFirstPaint.h"
 #include "CommandLine.h"
 #include "HeadlessPrint.h"
 #include "PDESecrets.h"
@@ -82,6 +83,10 @@ static int runDialog(const CommandLine& cl)
         }
         return ExitOK;
     }
+    // PRINT_PANELS_EXIT_AFTER_SHOW=1 closes the window after its first paint
+    // (exit status 1, nothing printed): whole openings can be timed from outside.
+    if (qEnvironmentVariableIsSet("PRINT_PANELS_EXIT_AFTER_SHOW"))
+        new CloseAfterFirstPaint(&window);
     // A job sent: 0; the dialog closed without printing: 1.
     return window.exec() == QDialog::Accepted ? ExitOK : ExitFailure;
 }
