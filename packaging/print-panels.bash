@@ -16,7 +16,8 @@ _print_panels_queue_from_line()
 _print_panels()
 {
     local cur prev words cword
-    _init_completion || return
+    # '=' stays inside a word: -o KEY=VALUE is completed as one.
+    _init_completion -n = || return
 
     case $prev in
         --ppd)
@@ -49,7 +50,8 @@ _print_panels()
                 local key=${cur%%=*} choices=""
                 [[ -n $queue ]] && choices=$(lpoptions -p "$queue" -l 2>/dev/null |
                     awk -F': ' -v key="$key" '{ split($1, k, "/") } k[1] == key { gsub(/\*/, "", $2); print $2 }')
-                COMPREPLY=($(compgen -P "$key=" -W "$choices" -- "${cur#*=}"))
+                # Readline replaces only what follows the '='.
+                COMPREPLY=($(compgen -W "$choices" -- "${cur#*=}"))
             else
                 local keys="copies= page-ranges= number-up= orientation-requested= sides= media= job-sheets="
                 [[ -n $queue ]] && keys+=" $(lpoptions -p "$queue" -l 2>/dev/null | awk -F'/' '{ print $1 "=" }')"
