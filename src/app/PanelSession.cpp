@@ -13,7 +13,7 @@
 
 QString PanelSession::samplePrinterPPD(QTemporaryDir& dir, const QString& name)
 {
-    std::shared_ptr<PDEBundle> bundle = PDEBundle::embedded();
+    std::shared_ptr<PDEBundle> bundle = PDEBundle::forProgram();
     const QString source = bundle ? bundle->pathForResource(name, QStringLiteral("ppd")) : QString();
     if (source.isEmpty() || !dir.isValid())
         return QString();
@@ -28,7 +28,7 @@ QString PanelSession::samplePrinterPPD(QTemporaryDir& dir, const QString& name)
 std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString* error)
 {
     std::unique_ptr<PanelSession> s(new PanelSession);
-    s->m_bundle = options.bundlePath.isEmpty() ? PDEBundle::embedded() : PDEBundle::open(options.bundlePath, error);
+    s->m_bundle = options.bundlePath.isEmpty() ? PDEBundle::forProgram() : PDEBundle::open(options.bundlePath, error);
     if (!s->m_bundle) {
         if (error && error->isEmpty())
             *error = QStringLiteral("the plug-in bundle cannot be read");

@@ -22,7 +22,7 @@ public:
         QString printer;      // a CUPS queue; with no PPD file either, the user's default
                               // destination, or the sample printer when there is no queue
         QString server;       // host:port of the CUPS server, or empty
-        QString bundlePath;   // the plug-in bundle; empty means the built-in one
+        QString bundlePath;   // the plug-in bundle; empty means the program's own (installed or built in)
         QStringList optionStrings;  // as given to -o
     };
 

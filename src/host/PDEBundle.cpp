@@ -1,5 +1,6 @@
 #include "PDEBundle.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -39,6 +40,17 @@ std::shared_ptr<PDEBundle> PDEBundle::embedded()
 {
     initBundleResources();
     return open(QStringLiteral(":/bundle"));
+}
+
+std::shared_ptr<PDEBundle> PDEBundle::forProgram()
+{
+    if (QCoreApplication::instance()) {
+        const QString installed = QDir::cleanPath(QDir(QCoreApplication::applicationDirPath())
+                                                      .filePath(QStringLiteral(PRINT_PANELS_BUNDLE_FROM_BIN)));
+        if (QFileInfo::exists(QDir(installed).filePath(QStringLiteral("Info.json"))))
+            return open(installed);
+    }
+    return embedded();
 }
 
 PDEBundle::~PDEBundle() = default;

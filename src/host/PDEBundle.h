@@ -14,6 +14,10 @@ public:
     static std::shared_ptr<PDEBundle> open(const QString& path, QString* error = nullptr);
     // The bundle built into the program.
     static std::shared_ptr<PDEBundle> embedded();
+    // The program's bundle: the installed one beside the program
+    // (../share/print-panels from its folder, whatever the prefix) when there
+    // is one, else the built-in one (a program run from the build tree).
+    static std::shared_ptr<PDEBundle> forProgram();
 
     ~PDEBundle();
 
