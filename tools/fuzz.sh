@@ -15,7 +15,10 @@ launcher=()
 if command -v ccache >/dev/null; then
   launcher=(-DCMAKE_C_COMPILER_LAUNCHER=ccache -DCMAKE_CXX_COMPILER_LAUNCHER=ccache)
 fi
+# Optimised and with line tables: the sanitizers' usual -O1, and stacks with
+# file and line, at about half the compile time of -O2 -g.
 CC=clang CXX=clang++ cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
+  -DCMAKE_C_FLAGS_RELWITHDEBINFO="-O1 -gline-tables-only" -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O1 -gline-tables-only" \
   -DPRINT_PANELS_ASAN=ON -DPRINT_PANELS_FUZZ=ON "${launcher[@]}" >/dev/null
 cmake --build "$build" -j2
 

@@ -4,6 +4,7 @@
 #include "PDEAlerts.h"
 #include "PDEBundle.h"
 #include "PDELogSink.h"
+#include "PrintDialogHost.h"
 
 #include <QApplication>
 #include <QDir>
@@ -64,11 +65,13 @@ inline QStringList lines(const uint8_t* data, size_t size, int atLeast)
     return l;
 }
 
-// A sample printer's PPD from the source tree.
-inline QString samplePPD(bool second = false)
+// A host on the sample printer that has every panel, made anew for each input.
+inline std::unique_ptr<PrintDialogHost> sampleHost()
 {
-    return QDir(QStringLiteral(PDE_SOURCE_BUNDLE_DIR))
-        .filePath(second ? QStringLiteral("printers/velmora-m200.ppd") : QStringLiteral("printers/velmora-c5500.ppd"));
+    QString error;
+    auto host = PrintDialogHost::openPPDFile(QDir(QStringLiteral(PDE_SOURCE_BUNDLE_DIR)).filePath(QStringLiteral("printers/velmora-c5500.ppd")), &error);
+    check(host != nullptr, "the sample printer does not open", error);
+    return host;
 }
 
 }

@@ -62,8 +62,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     MRManualMarginPDE::getInchValue(MRFormatter::doubleValue(text), metric);
 
     QString error;
-    auto host = PrintDialogHost::openPPDFile(FuzzSupport::samplePPD(), &error);
-    FuzzSupport::check(host != nullptr, "sample printer", error);
+    auto host = FuzzSupport::sampleHost();
     // The stored value of every length, and the PPD's choice of what the
     // margin is for, as a saved setting would bring them.
     for (int v = MRManualMarginPDE::FrontSide; v < MRManualMarginPDE::ValueCount; ++v)

@@ -13,8 +13,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     FuzzSupport::check(PrintDialogHost::validateOptionString(options, nullptr) == error.isEmpty(), "validate and split disagree", options);
     FuzzSupport::check(error.isEmpty() || tokens.isEmpty(), "a refused string has tokens", options);
 
-    auto host = PrintDialogHost::openPPDFile(FuzzSupport::samplePPD(), &error);
-    FuzzSupport::check(host != nullptr, "sample printer", error);
+    auto host = FuzzSupport::sampleHost();
     const PrintDialogHost::OptionList before = host->jobOptions();
     if (!host->applyOptions(options, &error)) {
         FuzzSupport::check(!error.isEmpty(), "refused without a reason", options);

@@ -24,8 +24,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     }
 
     QString error;
-    auto host = PrintDialogHost::openPPDFile(FuzzSupport::samplePPD(), &error);
-    FuzzSupport::check(host != nullptr, "sample printer", error);
+    auto host = FuzzSupport::sampleHost();
     host->printSettings()->setValue(QString::fromLatin1(kNSSpecialPageKey), list);
     auto panel = MRSpecialPagePDE::create(host.get(), PDEBundle::embedded());
     FuzzSupport::check(panel != nullptr, "special pages panel");

@@ -20,8 +20,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
     }
 
     QString error;
-    auto host = PrintDialogHost::openPPDFile(FuzzSupport::samplePPD(), &error);
-    FuzzSupport::check(host != nullptr, "sample printer", error);
+    auto host = FuzzSupport::sampleHost();
     host->printSettings()->setValue(QString::fromLatin1(kNSWatermarkCustomeStrKey), text);
     auto panel = MRAdvancedOptionPDE::create(host.get(), PDEBundle::embedded());
     FuzzSupport::check(panel != nullptr, "advanced options panel");
