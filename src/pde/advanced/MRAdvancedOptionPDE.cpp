@@ -6,6 +6,7 @@
 #include "MRFormatter.h"
 #include "MRManualBookletController.h"
 #include "MRMessageAngleField.h"
+#include "MRMessageFormatter.h"
 #include "MRPosterController.h"
 #include "MRSheetPerSetTextField.h"
 #include "MRWatermarkController.h"
@@ -557,16 +558,16 @@ QVariantMap MRAdvancedOptionPDE::getBookletStatusString() const
 QString MRAdvancedOptionPDE::escapeWatermarkText(const QString& text)
 {
     QString wire = text;
-    wire.replace(QLatin1Char(','), QStringLiteral("c|$ma*&|"));
-    wire.replace(QLatin1Char('\''), QStringLiteral("|q*u&tn|"));
+    wire.replace(QLatin1Char(','), QLatin1String(MRMessageFormatter::kCommaMarker));
+    wire.replace(QLatin1Char('\''), QLatin1String(MRMessageFormatter::kQuoteMarker));
     return wire;
 }
 
 QString MRAdvancedOptionPDE::unescapeWatermarkText(const QString& wire)
 {
     QString text = wire;
-    text.replace(QStringLiteral("c|$ma*&|"), QStringLiteral(","));
-    text.replace(QStringLiteral("|q*u&tn|"), QStringLiteral("'"));
+    text.replace(QLatin1String(MRMessageFormatter::kCommaMarker), QStringLiteral(","));
+    text.replace(QLatin1String(MRMessageFormatter::kQuoteMarker), QStringLiteral("'"));
     return text;
 }
 
