@@ -6,8 +6,11 @@
 # A crashing, hanging or memory-hungry input fails the run: its target and
 # its file are named, and the file is kept under build-fuzz/fuzz-findings
 # to be committed into the target's corpus with the fix.
-# Usage: tools/fuzz.sh [SECONDS]
+# With --suite, the whole test suite runs in that build first.
+# Usage: tools/fuzz.sh [--suite] [SECONDS]
 set -euo pipefail
+suite=0
+if [ "${1:-}" = --suite ]; then suite=1; shift; fi
 seconds=${1:-30}
 root=$(cd "$(dirname "$0")/.." && pwd)
 build=$root/build-fuzz
@@ -21,6 +24,9 @@ CC=clang CXX=clang++ cmake -S "$root" -B "$build" -G Ninja -DCMAKE_BUILD_TYPE=Re
   -DCMAKE_C_FLAGS_RELWITHDEBINFO="-O1 -gline-tables-only" -DCMAKE_CXX_FLAGS_RELWITHDEBINFO="-O1 -gline-tables-only" \
   -DPRINT_PANELS_ASAN=ON -DPRINT_PANELS_FUZZ=ON "${launcher[@]}" >/dev/null
 cmake --build "$build" -j2
+if [ "$suite" = 1 ]; then
+  (cd "$build" && QT_QPA_PLATFORM=offscreen ctest --output-on-failure -j2)
+fi
 
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
