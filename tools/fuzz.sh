@@ -32,7 +32,7 @@ work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 findings=$build/fuzz-findings
 export QT_QPA_PLATFORM=offscreen LC_ALL=C.UTF-8
-export ASAN_OPTIONS=fast_unwind_on_malloc=0
+export ASAN_OPTIONS=fast_unwind_on_malloc=0:detect_leaks=0
 export LSAN_OPTIONS=suppressions=$root/tests/lsan.supp
 export UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1
 failed=0
@@ -43,7 +43,9 @@ for dir in "$root"/tests/fuzz/corpus/*/; do
   cp "$dir"* "$corpus"/
   # The PPD target also starts from the test fixtures and the smaller sample printer.
   [ "$name" = ppd ] && cp "$root"/tests/fixtures/*.ppd "$root"/bundle/printers/velmora-m200.ppd "$corpus"/
-  args=(-max_total_time="$seconds" -timeout=20 -rss_limit_mb=3072 -print_final_stats=1
+  # No leak check while fuzzing: fontconfig's configuration and Qt's
+  # fallback-font cache read as leaked. The replay tests check leaks.
+  args=(-max_total_time="$seconds" -timeout=20 -rss_limit_mb=3072 -print_final_stats=1 -detect_leaks=0
         -artifact_prefix="$work/$name/artifacts/")
   [ -f "$root/tests/fuzz/$name.dict" ] && args+=(-dict="$root/tests/fuzz/$name.dict")
   log=$work/$name/log

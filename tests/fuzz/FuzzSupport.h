@@ -36,6 +36,8 @@ inline void start()
         PDEAlerts::setHandler([](const PDEAlerts::Alert&) { return int(PDEAlerts::DefaultButton); });
         PDELogSink::instance().setCapture([](const QString&) {});
         PDEBundle::embedded()->setLanguage(QStringLiteral("en"));
+        // Closed at exit as a program closes it, before the leak check.
+        std::atexit([] { delete qApp; });
         return a;
     }();
     (void)app;

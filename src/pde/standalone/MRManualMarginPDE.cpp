@@ -10,6 +10,7 @@
 #include "ui_ManualMarginPDE.h"
 
 #include <QButtonGroup>
+#include <algorithm>
 #include <cups/ppd.h>
 
 namespace {
@@ -832,10 +833,13 @@ void MRManualMarginPDE::writeNonPPDSettingsToPrintSettings()
             _PDELog(this, QStringLiteral("ManualMargin PDE got an error %d setting the value for %@ !"), status, keyOf(v));
     };
     const int index = useConstraintHandling() ? indexOfMarkedOptionForKey(QString::fromLatin1(kNSMarginForKey)) : marginForIndex();
-    if (index == 1)
-        for (Value v : kBindingValues)
+    // The chosen kind's values are written; the other values only where the
+    // settings hold them, so that a value read as unusable is replaced by the
+    // one used instead of travelling on with the job.
+    for (int i = 0; i < ValueCount; ++i) {
+        const Value v = Value(i);
+        const bool binding = std::find(std::begin(kBindingValues), std::end(kBindingValues), v) != std::end(kBindingValues);
+        if ((index == 1 && binding) || (index == 2 && !binding) || settings->contains(keyOf(v)))
             write(v);
-    else if (index == 2)
-        for (Value v : kShiftValues)
-            write(v);
+    }
 }
