@@ -1,28 +1,28 @@
 #include "CupsDestinations.h"
 
+#include "CupsDestList.h"
+
 #include <QDir>
 #include <cups/cups.h>
 
-QList<CupsDestinations::Queue> CupsDestinations::queues()
+QList<CupsDestinations::Queue> CupsDestinations::queues(const CupsDestList& dests)
 {
     QList<Queue> out;
-    cups_dest_t* dests = nullptr;
-    const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests);
-    for (int i = 0; i < count; ++i) {
-        if (dests[i].instance)
+    for (int i = 0; i < dests.count(); ++i) {
+        const cups_dest_t& dest = dests.at(i);
+        if (dest.instance)
             continue;
         Queue q;
-        q.name = QString::fromUtf8(dests[i].name);
-        auto option = [&](const char* name) { return QString::fromUtf8(cupsGetOption(name, dests[i].num_options, dests[i].options)); };
+        q.name = QString::fromUtf8(dest.name);
+        auto option = [&](const char* name) { return QString::fromUtf8(cupsGetOption(name, dest.num_options, dest.options)); };
         q.description = option("printer-info");
         q.location = option("printer-location");
         q.makeAndModel = option("printer-make-and-model");
         q.state = option("printer-state").toInt();
         q.accepting = option("printer-is-accepting-jobs") != QLatin1String("false");
-        q.isDefault = dests[i].is_default;
+        q.isDefault = dest.is_default;
         out.append(q);
     }
-    cupsFreeDests(count, dests);
     return out;
 }
 
@@ -39,17 +39,20 @@ QStringList CupsDestinations::coverPages(const QString& queue)
 {
     QStringList names;
     if (!queue.isEmpty()) {
-        const QByteArray name = queue.section(QLatin1Char('/'), 0, 0).toUtf8();
-        if (cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, name.constData(), nullptr)) {
-            if (cups_dinfo_t* info = cupsCopyDestInfo(CUPS_HTTP_DEFAULT, dest)) {
-                if (ipp_attribute_t* a = cupsFindDestSupported(CUPS_HTTP_DEFAULT, dest, info, "job-sheets")) {
-                    for (int i = 0; i < ippGetCount(a); ++i)
-                        names.append(QString::fromUtf8(ippGetString(a, i, nullptr)));
-                }
-                cupsFreeDestInfo(info);
-            }
-            cupsFreeDests(1, dest);
+        // One Get-Printer-Attributes for the one attribute shown, not every
+        // attribute of the printer (cupsCopyDestInfo).
+        char uri[HTTP_MAX_URI];
+        httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", ippPort(), "/printers/%s",
+                         queue.section(QLatin1Char('/'), 0, 0).toUtf8().constData());
+        ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
+        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "job-sheets-supported");
+        ipp_t* response = cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/");
+        if (ipp_attribute_t* a = ippFindAttribute(response, "job-sheets-supported", IPP_TAG_ZERO)) {
+            for (int i = 0; i < ippGetCount(a); ++i)
+                names.append(QString::fromUtf8(ippGetString(a, i, nullptr)));
         }
+        ippDelete(response);
     }
     if (names.isEmpty())
         names = installedBanners();

@@ -3,8 +3,10 @@
 #include <QString>
 #include <QStringList>
 
-// What CUPS offers the dialog: the queues of the server (cupsGetDests2) and
-// the cover pages (banners) a queue supports.
+class CupsDestList;
+
+// What CUPS offers the dialog: the queues of the server and the cover pages
+// (banners) a queue supports.
 class CupsDestinations {
 public:
     struct Queue {
@@ -17,11 +19,12 @@ public:
         bool isDefault = false;
     };
 
-    // Every queue of the current server, in the server's order, with what
-    // the server says of its state (one request). Instances (presets) are
-    // not queues of their own and are left out.
-    static QList<Queue> queues();
-    // The cover pages of a queue (its job-sheets-supported), or, for a PPD
-    // file without a queue, the banners installed with CUPS. "none" first.
+    // Every queue of the list, in the server's order, with what the server
+    // says of its state. Instances (presets) are not queues of their own and
+    // are left out.
+    static QList<Queue> queues(const CupsDestList& dests);
+    // The cover pages of a queue (its job-sheets-supported, the only
+    // attribute asked for), or, for a PPD file without a queue, the banners
+    // installed with CUPS. "none" first.
     static QStringList coverPages(const QString& queue);
 };

@@ -1,5 +1,6 @@
 #include "PresetStore.h"
 
+#include "CupsDestList.h"
 #include "LpoptionsFile.h"
 #include "PDESecrets.h"
 
@@ -10,26 +11,8 @@
 #include <unistd.h>
 
 namespace {
-// The destinations libcups knows for this user (server queues merged with the
-// lpoptions files), freed on leaving scope.
-class Dests {
-public:
-    Dests() { count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests); }
-    ~Dests() { cupsFreeDests(count, dests); }
-    Dests(const Dests&) = delete;
-    Dests& operator=(const Dests&) = delete;
-
-    cups_dest_t* find(const QByteArray& name, const QByteArray& instance) const
-    {
-        return cupsGetDest(name.constData(), instance.isEmpty() ? nullptr : instance.constData(), count, dests);
-    }
-
-    int count = 0;
-    cups_dest_t* dests = nullptr;
-};
-
 // Whether the server knows the queue; the error says which server was asked.
-bool queueKnown(const Dests& d, const QString& queue, QString* error)
+bool queueKnown(const CupsDestList& d, const QString& queue, QString* error)
 {
     if (d.find(queue.toUtf8(), QByteArray()))
         return true;
@@ -63,12 +46,6 @@ QString systemLpoptionsPath()
 PresetStore::PresetStore(const QString& queue, const QString& server)
     : m_queue(queue.section(QLatin1Char('/'), 0, 0)), m_server(server)
 {
-}
-
-void PresetStore::useServer() const
-{
-    if (!m_server.isEmpty())
-        cupsSetServer(m_server.toUtf8().constData());
 }
 
 QString PresetStore::lpoptionsPath()
@@ -109,14 +86,17 @@ bool PresetStore::isPrinterAttribute(const QString& key)
 
 QStringList PresetStore::names(QString* error) const
 {
-    useServer();
-    Dests d;
+    return names(CupsDestList(m_server), error);
+}
+
+QStringList PresetStore::names(const CupsDestList& d, QString* error) const
+{
     const QByteArray queue = m_queue.toUtf8();
     if (!queueKnown(d, m_queue, error))
         return {};
     QStringList out;
-    for (int i = 0; i < d.count; ++i) {
-        const cups_dest_t& dest = d.dests[i];
+    for (int i = 0; i < d.count(); ++i) {
+        const cups_dest_t& dest = d.at(i);
         if (dest.instance && qstricmp(dest.name, queue.constData()) == 0)
             out << QString::fromUtf8(dest.instance);
     }
@@ -126,8 +106,7 @@ QStringList PresetStore::names(QString* error) const
 
 bool PresetStore::optionsOf(const QString& instance, PrintDialogHost::OptionList* options, QString* error) const
 {
-    useServer();
-    Dests d;
+    const CupsDestList d(m_server);
     const QByteArray queue = m_queue.toUtf8();
     if (!queueKnown(d, m_queue, error))
         return false;
@@ -163,10 +142,9 @@ QString PresetStore::existingName(const QString& name) const
 
 bool PresetStore::change(const std::function<bool(LpoptionsFile&, QString*)>& edit, QString* error)
 {
-    useServer();
     // Without the queue (an unreachable server, a queue that went away)
     // nothing is written.
-    if (!queueKnown(Dests(), m_queue, error))
+    if (!queueKnown(CupsDestList(m_server), m_queue, error))
         return false;
     LpoptionsFile file(lpoptionsPath());
     return file.read(error) && edit(file, error) && file.write(error);

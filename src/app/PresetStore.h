@@ -5,6 +5,7 @@
 #include <QStringList>
 #include <functional>
 
+class CupsDestList;
 class LpoptionsFile;
 
 // Named sets of job options for one CUPS queue, kept as instances of the
@@ -27,6 +28,8 @@ public:
 
     // The presets of the queue, sorted. Empty on error (see *error).
     QStringList names(QString* error = nullptr) const;
+    // The same, read from destinations already fetched.
+    QStringList names(const CupsDestList& dests, QString* error = nullptr) const;
     // The queue's own saved options (what a new preset starts from), without
     // the attributes CUPS reports about the printer and without secrets.
     bool savedOptions(PrintDialogHost::OptionList* options, QString* error = nullptr) const;
@@ -56,7 +59,6 @@ public:
 
 private:
     bool optionsOf(const QString& instance, PrintDialogHost::OptionList* options, QString* error) const;
-    void useServer() const;
     // Reads the user's file, applies edit and writes it, if the server knows the queue.
     bool change(const std::function<bool(LpoptionsFile&, QString*)>& edit, QString* error);
 

@@ -110,8 +110,12 @@ void PrintDialogWindow::installTranslations(const PDEBundle& bundle)
         return;
     translator = new QTranslator(QCoreApplication::instance());
     const QString dir = QDir(bundle.bundlePath()).filePath(QStringLiteral("translations"));
-    if (translator->load(QStringLiteral("pde_") + bundle.language(), dir))
-        QCoreApplication::installTranslator(translator);
+    if (!translator->load(QStringLiteral("pde_") + bundle.language(), dir))
+        return;
+    QCoreApplication::installTranslator(translator);
+    // The language change reaches the widgets now, while they are still
+    // empty, not after they were filled: the lists are filled once.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
 }
 
 bool PrintDialogWindow::openSession(const PanelSession::Options& options, QString* error)

@@ -1,5 +1,6 @@
 #include "PrinterPresetBar.h"
 
+#include "CupsDestList.h"
 #include "CupsDestinations.h"
 #include "PDEBundle.h"
 #include "PresetStore.h"
@@ -61,8 +62,10 @@ void PrinterPresetBar::showSession(PanelSession* session, const PanelSession::Op
 
 void PrinterPresetBar::refresh()
 {
-    fillPrinters();
-    fillPresets();
+    // One destinations request for both lists.
+    const CupsDestList dests(m_opened.server);
+    fillPrinters(dests);
+    fillPresets(dests);
 }
 
 bool PrinterPresetBar::isQueue() const
@@ -94,12 +97,12 @@ QString PrinterPresetBar::stateText(const CupsDestinations::Queue& queue)
     return queue.accepting ? state : tr("%1, not accepting jobs").arg(state);
 }
 
-void PrinterPresetBar::fillPrinters()
+void PrinterPresetBar::fillPrinters(const CupsDestList& dests)
 {
     const QSignalBlocker blocker(ui->printerCombo);
     QComboBox* combo = ui->printerCombo;
     combo->clear();
-    for (const CupsDestinations::Queue& q : CupsDestinations::queues()) {
+    for (const CupsDestinations::Queue& q : CupsDestinations::queues(dests)) {
         const QString name = q.description.isEmpty() || q.description == q.name
                                  ? q.name
                                  : QStringLiteral("%1 (%2)").arg(q.description, q.name);
@@ -182,7 +185,7 @@ void PrinterPresetBar::printerChosen(int index)
         options.ppdPath = QFileDialog::getOpenFileName(this, tr("Choose a PPD File"), QDir::homePath(),
                                                        tr("PPD files (*.ppd *.PPD);;All files (*)"));
         if (options.ppdPath.isEmpty()) {
-            fillPrinters();
+            fillPrinters(CupsDestList(m_opened.server));
             return;
         }
         break;
@@ -190,7 +193,7 @@ void PrinterPresetBar::printerChosen(int index)
     emit openRequested(options, true);
 }
 
-void PrinterPresetBar::fillPresets()
+void PrinterPresetBar::fillPresets(const CupsDestList& dests)
 {
     const QSignalBlocker blocker(ui->presetCombo);
     ui->presetCombo->clear();
@@ -199,7 +202,7 @@ void PrinterPresetBar::fillPresets()
     QString error;
     if (queue) {
         const PresetStore store(queueName(), m_opened.server);
-        for (const QString& name : store.names(&error))
+        for (const QString& name : store.names(dests, &error))
             ui->presetCombo->addItem(name, name);
     }
     ui->presetCombo->setCurrentIndex(qMax(0, ui->presetCombo->findData(presetName())));
@@ -305,14 +308,14 @@ void PrinterPresetBar::makeDefaultPrinter()
         QMessageBox::warning(this, window()->windowTitle(), tr("The default printer cannot be set: %1").arg(error));
         return;
     }
-    fillPrinters();
+    fillPrinters(CupsDestList(m_opened.server));
     emit notice(tr("%1 is now your default printer.").arg(m_opened.printer));
 }
 
 void PrinterPresetBar::usePreset(const QString& name)
 {
     m_opened.printer = name.isEmpty() ? queueName() : queueName() + QLatin1Char('/') + name;
-    fillPresets();
+    fillPresets(CupsDestList(m_opened.server));
     emit presetRenamed(m_opened.printer);
 }
 

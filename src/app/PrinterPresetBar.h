@@ -7,6 +7,8 @@
 #include <functional>
 #include <memory>
 
+class CupsDestList;
+
 namespace Ui {
 class PrinterPresetBar;
 }
@@ -50,8 +52,8 @@ private:
     // "idle", "printing", "stopped", each with ", not accepting jobs" where so.
     static QString stateText(const CupsDestinations::Queue& queue);
 
-    void fillPrinters();
-    void fillPresets();
+    void fillPrinters(const CupsDestList& dests);
+    void fillPresets(const CupsDestList& dests);
     void printerChosen(int index);
     void presetChosen(int index);
     void savePreset();

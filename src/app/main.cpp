@@ -124,7 +124,9 @@ int main(int argc, char** argv)
     const bool headless = cl.isHeadless() || !(canShowWindow || qEnvironmentVariableIsSet("PRINT_PANELS_SCREENSHOTS"));
     if (headless) {
         qInstallMessageHandler(quietQtMessages);
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // Nothing is drawn: the minimal platform skips the font database and
+        // the backing stores the offscreen one sets up.
+        qputenv("QT_QPA_PLATFORM", "minimal");
     } else if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

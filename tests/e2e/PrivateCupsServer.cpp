@@ -113,7 +113,7 @@ bool PrivateCupsServer::start(QString* error)
                                          "FileDevice Yes\nUser lp\nGroup lp\n")
                               .arg(m_dir->path());
     const QString conf = QStringLiteral("Listen 127.0.0.1:%1\nBrowsing No\nWebInterface No\nDefaultAuthType None\n"
-                                        "LogLevel warn\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
+                                        "LogLevel warn\nAccessLogLevel all\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
                                         "<Location />\n  Order allow,deny\n  Allow all\n</Location>\n"
                                         "<Location /admin>\n  Order allow,deny\n  Allow all\n</Location>\n"
                                         "<Policy default>\n  JobPrivateAccess default\n  JobPrivateValues %2\n"
@@ -230,4 +230,9 @@ QString PrivateCupsServer::jobAttribute(int jobId, const QString& name, const QS
 QString PrivateCupsServer::errorLog() const
 {
     return QString::fromUtf8(readAll(path(QStringLiteral("log/error_log"))));
+}
+
+QStringList PrivateCupsServer::accessLog() const
+{
+    return QString::fromUtf8(readAll(path(QStringLiteral("log/access_log")))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

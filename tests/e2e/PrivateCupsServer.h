@@ -67,6 +67,8 @@ public:
     // Asked as user `user` (this process's user when empty).
     QString jobAttribute(int jobId, const QString& name, const QString& user = QString()) const;
     QString errorLog() const;
+    // Every request the server answered, one line each, oldest first.
+    QStringList accessLog() const;
 
 private:
     QString path(const QString& relative) const { return m_dir ? m_dir->filePath(relative) : QString(); }

@@ -120,12 +120,17 @@ private slots:
             id = jobIdFrom(out);
         } else if (way == QLatin1String("dialog")) {
             PrintDialogWindow window;
+            const qsizetype logged = m_server.accessLog().size();
             QVERIFY2(window.openSession({{}, m_queue, m_server.address(), {}, optionStrings}, &error), qPrintable(error));
             auto* printButton = window.findChild<QPushButton*>(QStringLiteral("printButton"));
             QVERIFY(!printButton->isEnabled());  // nothing to print yet
             window.setDocuments(docs);
             window.show();
             QVERIFY(QTest::qWaitForWindowExposed(&window));
+            // An opening fetches the PPD once and the destinations once.
+            const QStringList requests = m_server.accessLog().mid(logged);
+            QCOMPARE(requests.filter(QStringLiteral("GET /printers/%1.ppd").arg(m_queue)).size(), 1);
+            QCOMPARE(requests.filter(QStringLiteral("CUPS-Get-Printers")).size(), 1);
             // A message box would wait for a click that never comes: it is closed, its text kept.
             QString boxText;
             QTimer watchdog;
