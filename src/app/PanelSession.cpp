@@ -64,6 +64,11 @@ std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString
     for (const QString& o : options.optionStrings)
         if (!s->m_host->applyOptions(o, error))
             return nullptr;
+    for (const QString& o : options.carriedOptions) {
+        QString refused;
+        if (!s->m_host->applyOptions(o, &refused))
+            s->m_notCarried.append(o);
+    }
 
     s->m_entry = std::make_unique<MRPDE_MACFirstEventHandler>();
     s->m_entry->initWithBundle(s->m_bundle);

@@ -24,6 +24,9 @@ public:
         QString server;       // host:port of the CUPS server, or empty
         QString bundlePath;   // the plug-in bundle; empty means the built-in one
         QStringList optionStrings;  // as given to -o
+        // One option each ("key=value" as for -o), applied after those where
+        // the printer takes it; the rest are told in notCarried().
+        QStringList carriedOptions;
     };
 
     static std::unique_ptr<PanelSession> open(const Options& options, QString* error);
@@ -40,6 +43,8 @@ public:
     const PrintDialogHost::OptionList& resolutionChanges() const { return m_resolutionChanges; }
     // Saved options of the queue that could not be used, in words.
     const QStringList& openingWarnings() const { return m_openingWarnings; }
+    // The carried options the printer did not take.
+    const QStringList& notCarried() const { return m_notCarried; }
     // Both of the above as lines for the command line, in English.
     QStringList openingNotes() const;
 
@@ -66,4 +71,5 @@ private:
     Options m_options;
     PrintDialogHost::OptionList m_resolutionChanges;
     QStringList m_openingWarnings;
+    QStringList m_notCarried;
 };
