@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <algorithm>
+#include <cups/ppd.h>
 
 QString PanelSession::samplePrinterPPD(QTemporaryDir& dir, const QString& name)
 {
@@ -66,7 +67,8 @@ std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString
             return nullptr;
     for (const QString& o : options.carriedOptions) {
         QString refused;
-        if (!s->m_host->applyOptions(o, &refused))
+        const QByteArray key = o.section(QLatin1Char('='), 0, 0).toUtf8();
+        if (!s->m_host->ppd() || !ppdFindOption(s->m_host->ppd(), key.constData()) || !s->m_host->applyOptions(o, &refused))
             s->m_notCarried.append(o);
     }
 

@@ -24,9 +24,10 @@ public:
         QString server;       // host:port of the CUPS server, or empty
         QString bundlePath;   // the plug-in bundle; empty means the built-in one
         QStringList optionStrings;  // as given to -o
-        // One option each ("key=value" as for -o), applied after those where
-        // the printer takes it; the rest are told in notCarried().
-        QStringList carriedOptions;
+        // PPD choices of another PPD, one each ("key=value" as for -o),
+        // applied after those where this PPD has the option and takes the
+        // choice; the rest are told in notCarried().
+        QStringList carriedOptions = {};
     };
 
     static std::unique_ptr<PanelSession> open(const Options& options, QString* error);
@@ -43,7 +44,7 @@ public:
     const PrintDialogHost::OptionList& resolutionChanges() const { return m_resolutionChanges; }
     // Saved options of the queue that could not be used, in words.
     const QStringList& openingWarnings() const { return m_openingWarnings; }
-    // The carried options the printer did not take.
+    // The carried choices the printer did not take.
     const QStringList& notCarried() const { return m_notCarried; }
     // Both of the above as lines for the command line, in English.
     QStringList openingNotes() const;

@@ -347,22 +347,23 @@ void PrintDialogWindow::reloadChangedPrinter()
         setNotice(tr("Not printed: %1").arg(error));
         return;
     }
-    // Every choice shown goes to the new PPD; the ones it has no place for
-    // are named, except the old PPD's defaults (nobody chose those).
+    // The job settings go along as they are; every PPD choice shown goes to
+    // the new PPD where it has the option; the ones it has no place for are
+    // named, except the old PPD's defaults (nobody chose those).
     ppd_file_t* old = m_session->host().ppd();
-    QStringList carried;
+    QStringList settings, carried;
     QMap<QString, QString> chosenText;
     for (const auto& [key, value] : std::as_const(chosen)) {
         const QString argument = LpCommand::optionArgument(key, value);
-        carried.append(argument);
         const ppd_option_t* option = old ? ppdFindOption(old, key.toUtf8().constData()) : nullptr;
-        if (!option || value != QString::fromUtf8(option->defchoice))
+        (option ? carried : settings).append(argument);
+        if (option && value != QString::fromUtf8(option->defchoice))
             chosenText.insert(argument, PDESecrets::isSecretKey(key) ? PrintDialogHost::optionText(old, key)
                                                                      : tr("%1: %2").arg(PrintDialogHost::optionText(old, key),
                                                                                         PrintDialogHost::choiceText(old, key, value)));
     }
     PanelSession::Options options = m_options;
-    options.optionStrings.clear();
+    options.optionStrings = settings;
     options.carriedOptions = carried;
     if (!openSession(options, &error)) {
         QMessageBox::warning(this, windowTitle(), tr("The printer was changed on the server and cannot be used now: %1").arg(error));

@@ -1,7 +1,7 @@
 #include "QueuePPDCheck.h"
 
 #include <QFile>
-#include <cups/cups.h>
+#include <cups/ppd.h>
 
 QueuePPDCheck::Result QueuePPDCheck::compare(const QString& queue, const QString& server, const QString& openedPPD)
 {
