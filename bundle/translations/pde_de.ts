@@ -801,6 +801,22 @@
         <translation>Der Auftrag wurde nicht gedruckt: %1</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer was changed on the server and cannot be used now: %1</source>
+        <translation>Der Drucker wurde auf dem Server geändert und kann jetzt nicht verwendet werden: %1</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the server while this dialog was open: nothing was printed. Its settings were loaded again with your choices; check them and print again.</source>
+        <translation>Der Drucker %1 wurde auf dem Server geändert, während dieser Dialog geöffnet war: Es wurde nichts gedruckt. Seine Einstellungen wurden mit Ihrer Auswahl neu geladen; prüfen Sie sie und drucken Sie erneut.</translation>
+    </message>
+    <message>
+        <source>The printer no longer has these choices: %1.</source>
+        <translation>Diese Auswahl gibt es beim Drucker nicht mehr: %1.</translation>
+    </message>
+    <message>
         <source>there is no document to print</source>
         <translation>es gibt kein Dokument zum Drucken</translation>
     </message>

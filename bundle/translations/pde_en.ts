@@ -801,6 +801,22 @@
         <translation>The job was not printed: %1</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer was changed on the server and cannot be used now: %1</source>
+        <translation>The printer was changed on the server and cannot be used now: %1</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the server while this dialog was open: nothing was printed. Its settings were loaded again with your choices; check them and print again.</source>
+        <translation>The printer %1 was changed on the server while this dialog was open: nothing was printed. Its settings were loaded again with your choices; check them and print again.</translation>
+    </message>
+    <message>
+        <source>The printer no longer has these choices: %1.</source>
+        <translation>The printer no longer has these choices: %1.</translation>
+    </message>
+    <message>
         <source>there is no document to print</source>
         <translation>there is no document to print</translation>
     </message>

@@ -801,6 +801,22 @@
         <translation>La tâche n’a pas été imprimée : %1</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1 : %2</translation>
+    </message>
+    <message>
+        <source>The printer was changed on the server and cannot be used now: %1</source>
+        <translation>L’imprimante a été modifiée sur le serveur et ne peut pas être utilisée maintenant : %1</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the server while this dialog was open: nothing was printed. Its settings were loaded again with your choices; check them and print again.</source>
+        <translation>L’imprimante %1 a été modifiée sur le serveur pendant que ce dialogue était ouvert : rien n’a été imprimé. Ses réglages ont été rechargés avec vos choix ; vérifiez-les et imprimez à nouveau.</translation>
+    </message>
+    <message>
+        <source>The printer no longer has these choices: %1.</source>
+        <translation>L’imprimante n’offre plus ces choix : %1.</translation>
+    </message>
+    <message>
         <source>there is no document to print</source>
         <translation>il n’y a aucun document à imprimer</translation>
     </message>

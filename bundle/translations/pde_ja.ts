@@ -801,6 +801,22 @@
         <translation>ジョブはプリントされませんでした: %1</translation>
     </message>
     <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>The printer was changed on the server and cannot be used now: %1</source>
+        <translation>プリンタはサーバ上で変更されたため、現在使用できません: %1</translation>
+    </message>
+    <message>
+        <source>The printer %1 was changed on the server while this dialog was open: nothing was printed. Its settings were loaded again with your choices; check them and print again.</source>
+        <translation>このダイアログを開いている間にプリンタ %1 がサーバ上で変更されました。何もプリントされていません。設定を選択内容とともに読み込み直しました。確認してからもう一度プリントしてください。</translation>
+    </message>
+    <message>
+        <source>The printer no longer has these choices: %1.</source>
+        <translation>プリンタには次の選択項目がなくなりました: %1。</translation>
+    </message>
+    <message>
         <source>there is no document to print</source>
         <translation>プリントする書類がありません</translation>
     </message>

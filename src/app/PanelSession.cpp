@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <algorithm>
+#include <cups/ppd.h>
 
 QString PanelSession::samplePrinterPPD(QTemporaryDir& dir, const QString& name)
 {
@@ -64,6 +65,12 @@ std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString
     for (const QString& o : options.optionStrings)
         if (!s->m_host->applyOptions(o, error))
             return nullptr;
+    for (const QString& o : options.carriedOptions) {
+        QString refused;
+        const QByteArray key = o.section(QLatin1Char('='), 0, 0).toUtf8();
+        if (!s->m_host->ppd() || !ppdFindOption(s->m_host->ppd(), key.constData()) || !s->m_host->applyOptions(o, &refused))
+            s->m_notCarried.append(o);
+    }
 
     s->m_entry = std::make_unique<MRPDE_MACFirstEventHandler>();
     s->m_entry->initWithBundle(s->m_bundle);

@@ -24,6 +24,10 @@ public:
         QString server;       // host:port of the CUPS server, or empty
         QString bundlePath;   // the plug-in bundle; empty means the program's own (installed or built in)
         QStringList optionStrings;  // as given to -o
+        // PPD choices of another PPD, one each ("key=value" as for -o),
+        // applied after those where this PPD has the option and takes the
+        // choice; the rest are told in notCarried().
+        QStringList carriedOptions = {};
     };
 
     static std::unique_ptr<PanelSession> open(const Options& options, QString* error);
@@ -40,6 +44,8 @@ public:
     const PrintDialogHost::OptionList& resolutionChanges() const { return m_resolutionChanges; }
     // Saved options of the queue that could not be used, in words.
     const QStringList& openingWarnings() const { return m_openingWarnings; }
+    // The carried choices the printer did not take.
+    const QStringList& notCarried() const { return m_notCarried; }
     // Both of the above as lines for the command line, in English.
     QStringList openingNotes() const;
 
@@ -66,4 +72,5 @@ private:
     Options m_options;
     PrintDialogHost::OptionList m_resolutionChanges;
     QStringList m_openingWarnings;
+    QStringList m_notCarried;
 };

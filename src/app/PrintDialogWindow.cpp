@@ -10,7 +10,9 @@
 #include "PrintDialogHost.h"
 #include "PanelStack.h"
 #include "PrintJob.h"
+#include "PDESecrets.h"
 #include "PrinterPresetBar.h"
+#include "QueuePPDCheck.h"
 #include "ui_PrintDialogWindow.h"
 
 #include <QApplication>
@@ -18,6 +20,7 @@
 #include <QElapsedTimer>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QMap>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTabWidget>
@@ -314,6 +317,13 @@ void PrintDialogWindow::printClicked()
         setNotice(invalid);
         return;
     }
+    // The queue may have been given another PPD since the dialog opened:
+    // its options are then not the ones shown, and nothing is printed blindly.
+    if (isQueue()
+        && QueuePPDCheck::compare(m_options.printer, m_options.server, m_session->host().ppdPath()) == QueuePPDCheck::Result::Changed) {
+        reloadChangedPrinter();
+        return;
+    }
     QString refusal;
     const bool ready = m_session->prepareToPrint(&refusal, [this](PDEPanel* panel) { m_askingPanel = panel; });
     m_askingPanel = nullptr;
@@ -331,6 +341,49 @@ void PrintDialogWindow::printClicked()
         return;
     }
     accept();
+}
+
+void PrintDialogWindow::reloadChangedPrinter()
+{
+    QString error;
+    PrintDialogHost::OptionList chosen;
+    if (!currentSettings(&chosen, &error)) {
+        setNotice(tr("Not printed: %1").arg(error));
+        return;
+    }
+    // The job settings go along as they are; every PPD choice shown goes to
+    // the new PPD where it has the option; the ones it has no place for are
+    // named, except the old PPD's defaults (nobody chose those).
+    ppd_file_t* old = m_session->host().ppd();
+    QStringList settings, carried;
+    QMap<QString, QString> chosenText;
+    for (const auto& [key, value] : std::as_const(chosen)) {
+        const QString argument = LpCommand::optionArgument(key, value);
+        const ppd_option_t* option = old ? ppdFindOption(old, key.toUtf8().constData()) : nullptr;
+        (option ? carried : settings).append(argument);
+        if (option && value != QString::fromUtf8(option->defchoice))
+            chosenText.insert(argument, PDESecrets::isSecretKey(key) ? PrintDialogHost::optionText(old, key)
+                                                                     : tr("%1: %2").arg(PrintDialogHost::optionText(old, key),
+                                                                                        PrintDialogHost::choiceText(old, key, value)));
+    }
+    PanelSession::Options options = m_options;
+    options.optionStrings = settings;
+    options.carriedOptions = carried;
+    if (!openSession(options, &error)) {
+        QMessageBox::warning(this, windowTitle(), tr("The printer was changed on the server and cannot be used now: %1").arg(error));
+        return;
+    }
+    QStringList lost;
+    for (const QString& argument : m_session->notCarried())
+        if (chosenText.contains(argument))
+            lost.append(chosenText.value(argument));
+    QString text = tr("The printer %1 was changed on the server while this dialog was open: nothing was printed. "
+                      "Its settings were loaded again with your choices; check them and print again.")
+                       .arg(m_options.printer);
+    if (!lost.isEmpty())
+        text += QLatin1Char(' ') + tr("The printer no longer has these choices: %1.").arg(lost.join(tr(", ")));
+    m_options.carriedOptions.clear();
+    QMessageBox::information(this, windowTitle(), text);
 }
 
 bool PrintDialogWindow::submitJob(QString* error)

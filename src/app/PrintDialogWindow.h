@@ -81,6 +81,8 @@ private:
     void printClicked();
     bool savePanels(QString* error);
     bool submitJob(QString* error);
+    // Opens the queue again on its new PPD, with the user's choices where it takes them.
+    void reloadChangedPrinter();
     void showLpCommand();
 
     bool isQueue() const;

@@ -25,6 +25,19 @@ QString lastCupsError()
     return QString::fromUtf8(cupsLastErrorString());
 }
 
+// Why the last request on http failed: the server's answer, or, when the
+// connection itself broke (libcups then reports the system's error, which
+// may be none: "Success"), that the server was lost.
+QString requestError(http_t* http, const QString& server)
+{
+    const QString reason = lastCupsError();
+    const int system = httpError(http);
+    if (system == 0 && !reason.isEmpty() && reason != QString::fromLocal8Bit(std::strerror(0)))
+        return reason;
+    const QString lost = QStringLiteral("the connection to the CUPS server %1 was lost").arg(server);
+    return system == 0 ? lost : QStringLiteral("%1 (%2)").arg(lost, QString::fromLocal8Bit(std::strerror(system)));
+}
+
 // The queue's document-format-supported, or an empty list when it cannot be
 // asked (any format is then tried).
 QStringList supportedFormats(http_t* http, cups_dest_t* dest)
@@ -160,7 +173,7 @@ bool PrintJob::submit()
     cupsFreeOptions(count, options);
     if (m_jobId <= 0) {
         m_jobId = 0;
-        return fail(Status::CupsError, QStringLiteral("printer %1 did not take the job: %2").arg(m_queue, lastCupsError()));
+        return fail(Status::CupsError, QStringLiteral("printer %1 did not take the job: %2").arg(m_queue, requestError(http.get(), server)));
     }
 
     auto abandon = [&](const QString& error) {
@@ -181,7 +194,7 @@ bool PrintJob::submit()
         const int last = i + 1 == documents.size() ? 1 : 0;
         if (cupsStartDocument(http.get(), name.constData(), m_jobId, docName.constData(), format.constData(), last)
             != HTTP_STATUS_CONTINUE)
-            return abandon(QStringLiteral("printer %1 did not take %2: %3").arg(m_queue, path, lastCupsError()));
+            return abandon(QStringLiteral("printer %1 did not take %2: %3").arg(m_queue, path, requestError(http.get(), server)));
         QByteArray chunk(64 * 1024, Qt::Uninitialized);
         while (true) {
             const qint64 n = file.read(chunk.data(), chunk.size());
@@ -192,12 +205,13 @@ bool PrintJob::submit()
             if (n == 0)
                 break;
             if (cupsWriteRequestData(http.get(), chunk.constData(), size_t(n)) != HTTP_STATUS_CONTINUE) {
+                const QString why = requestError(http.get(), server);
                 cupsFinishDocument(http.get(), name.constData());
-                return abandon(QStringLiteral("sending %1 to printer %2 failed: %3").arg(path, m_queue, lastCupsError()));
+                return abandon(QStringLiteral("sending %1 to printer %2 failed: %3").arg(path, m_queue, why));
             }
         }
         if (cupsFinishDocument(http.get(), name.constData()) > IPP_STATUS_OK_CONFLICTING)
-            return abandon(QStringLiteral("printer %1 did not take %2: %3").arg(m_queue, path, lastCupsError()));
+            return abandon(QStringLiteral("printer %1 did not take %2: %3").arg(m_queue, path, requestError(http.get(), server)));
     }
     m_status = Status::Sent;
     return true;

@@ -125,6 +125,17 @@ bool PrivateCupsServer::start(QString* error)
         || !writeFile(path(QStringLiteral("cups-files.conf")), files.toUtf8(), rw, error)
         || !writeFile(path(QStringLiteral("cupsd.conf")), conf.toUtf8(), rw, error))
         return false;
+    return launch(error);
+}
+
+bool PrivateCupsServer::restart(QString* error)
+{
+    stop();
+    return m_dir && launch(error);
+}
+
+bool PrivateCupsServer::launch(QString* error)
+{
     m_cupsd.setProcessChannelMode(QProcess::MergedChannels);
     m_cupsd.start(QStringLiteral("cupsd"), {QStringLiteral("-f"), QStringLiteral("-c"), path(QStringLiteral("cupsd.conf")),
                                             QStringLiteral("-s"), path(QStringLiteral("cups-files.conf"))});

@@ -47,7 +47,12 @@ public:
     bool start(QString* error);
     // Stops the server (its own process, by its pid) and waits for it to exit.
     void stop();
+    // Stops the server and starts it again on the same port and configuration
+    // (its queues and jobs kept).
+    bool restart(QString* error);
     bool isRunning() const { return m_cupsd.state() != QProcess::NotRunning; }
+    // The server's process id, for a test that stops it from another thread.
+    qint64 pid() const { return m_cupsd.processId(); }
 
     // "127.0.0.1:PORT", for --server, lp -h and cupsSetServer.
     QString address() const { return QStringLiteral("127.0.0.1:%1").arg(m_port); }
@@ -71,6 +76,7 @@ public:
     QStringList accessLog() const;
 
 private:
+    bool launch(QString* error);  // runs cupsd on the files start() wrote
     QString path(const QString& relative) const { return m_dir ? m_dir->filePath(relative) : QString(); }
 
     std::unique_ptr<QTemporaryDir> m_dir;
