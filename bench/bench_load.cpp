@@ -1,6 +1,7 @@
 // The dialog under load, against a private cupsd: a server with 500 queues
 // (the printer chooser filled), a user with 100 presets of one queue (the
 // list filled, one loaded, one saved, the dialog opened on one).
+#include "CupsDestList.h"
 #include "CupsDestinations.h"
 #include "PanelSession.h"
 #include "PresetStore.h"
@@ -88,7 +89,7 @@ void queueList(benchmark::State& state)
 {
     qsizetype count = 0;
     for (auto _ : state)
-        count = CupsDestinations::queues().size();
+        count = CupsDestinations::queues(CupsDestList()).size();
     state.counters["queues"] = double(count);
 }
 
