@@ -76,7 +76,7 @@ done
 
 # lintian: no errors (warnings are printed).
 lintian_status=0
-lintian --fail-on error --no-tag-display-limit "${debs[@]}" >"$work/lintian.log" 2>&1 || lintian_status=$?
+lintian --fail-on error --tag-display-limit 0 "${debs[@]}" >"$work/lintian.log" 2>&1 || lintian_status=$?
 cat "$work/lintian.log"
 check "lintian reports no errors" test "$lintian_status" -eq 0
 depends=$(dpkg-deb -f "${debs[0]}" Depends)
@@ -91,12 +91,13 @@ for f in /usr/bin/print-panels /usr/share/print-panels/Info.json /usr/share/prin
     /usr/share/print-panels/printers/velmora-c5500.ppd /usr/share/print-panels/data/WatermarkData.json \
     /usr/share/applications/org.printpanels.PrintPanels.desktop /usr/share/metainfo/org.printpanels.PrintPanels.metainfo.xml \
     /usr/share/man/man1/print-panels.1.gz /usr/share/bash-completion/completions/print-panels \
+    "/usr/lib/$(dpkg-architecture -qDEB_HOST_MULTIARCH)/libprintpanels_integration.so.0" \
     /usr/include/print-panels/PrintPanelsIntegration.h; do
     check "the packages carry $f" grep -qx "$f" "$work/files"
 done
 
+installed=1  # from here on, the packages are removed on the way out
 apt-get install -y -qq "${debs[@]}" >"$work/install.log" 2>&1 || { cat "$work/install.log"; exit 1; }
-installed=1
 pass "apt-get install ${packages[*]}"
 
 # From now on nothing comes from the source or build tree.
