@@ -3,8 +3,8 @@
 foomatic-db-compressed-ppds, hplip-data), read from their pyppd archives in
 /usr/lib/cups/driver/.
 
-  debian_ppds.py largest FILE      writes the largest PPD (by size) to FILE and
-                                   prints its URI
+  debian_ppds.py largest FILE      writes the largest PPD (by size) to FILE,
+                                   once, and prints its URI
   debian_ppds.py corpus DIR [N]    extracts a fixed selection of N PPDs (200)
                                    into DIR, once, and prints their paths
 """
@@ -86,12 +86,21 @@ def corpus(directory, count):
     return [paths[uri] for uri in chosen]
 
 
-def main():
-    if len(sys.argv) >= 3 and sys.argv[1] == "largest":
+def largest(path):
+    """The largest PPD, at path, its URI in path.uri: extracted once."""
+    if not (os.path.exists(path) and os.path.exists(path + ".uri")):
         sizes = all_ppds()
         uri = max(sizes, key=lambda u: (sizes[u], u))
-        extract({uri: sys.argv[2]})
-        print(uri)
+        extract({uri: path})
+        with open(path + ".uri", "w") as f:
+            f.write(uri + "\n")
+    with open(path + ".uri") as f:
+        return f.read().strip()
+
+
+def main():
+    if len(sys.argv) >= 3 and sys.argv[1] == "largest":
+        print(largest(sys.argv[2]))
     elif len(sys.argv) in (3, 4) and sys.argv[1] == "corpus":
         print("\n".join(corpus(sys.argv[2], int(sys.argv[3]) if len(sys.argv) == 4 else 200)))
     else:
