@@ -9,11 +9,10 @@ foomatic-db-compressed-ppds, hplip-data), read from their pyppd archives in
                                    into DIR, once, and prints their paths
 """
 import base64
-import importlib.machinery
-import importlib.util
 import lzma
 import os
 import sys
+import types
 
 DRIVERS = ["openprinting-ppds", "foomatic-db-compressed-ppds", "hplip-data"]
 DRIVER_DIR = "/usr/lib/cups/driver"
@@ -23,10 +22,9 @@ def archive_index(driver):
     """The archive's index: key -> [offset, size, [description lines]], and
     "ARCHIVE": the xz-compressed PPDs, one after the other (base64)."""
     path = os.path.join(DRIVER_DIR, driver)
-    name = driver.replace("-", "_")
-    loader = importlib.machinery.SourceFileLoader(name, path)
-    module = importlib.util.module_from_spec(importlib.util.spec_from_loader(name, loader))
-    loader.exec_module(module)
+    module = types.ModuleType(driver.replace("-", "_"))
+    with open(path, "rb") as f:
+        exec(compile(f.read(), path, "exec"), module.__dict__)
     return module.load()
 
 
