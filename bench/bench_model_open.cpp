@@ -1,13 +1,10 @@
 // Opening the option model on a PPD, against the floor libcups itself needs
 // to open and mark the same PPD.
-#include "MRPDE_MACChangeHandlerModel.h"
+#include "ModelOpenCases.h"
 #include "PDEBundle.h"
-#include "PrintDialogHost.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <benchmark/benchmark.h>
-#include <cups/ppd.h>
 
 #include <cstdlib>
 #include <string>
@@ -33,12 +30,8 @@ std::vector<std::string> ppdPaths()
 
 void libcupsFloor(benchmark::State& state, const std::string& path)
 {
-    for (auto _ : state) {
-        ppd_file_t* ppd = ppdOpenFile(path.c_str());
-        ppdMarkDefaults(ppd);
-        benchmark::DoNotOptimize(ppd);
-        ppdClose(ppd);
-    }
+    for (auto _ : state)
+        benchmark::DoNotOptimize(ModelOpenCases::libcupsFloor(path.c_str()));
 }
 
 void modelOpen(benchmark::State& state, const std::string& path)
@@ -48,16 +41,11 @@ void modelOpen(benchmark::State& state, const std::string& path)
     int features = 0;
     for (auto _ : state) {
         QString error;
-        auto host = PrintDialogHost::openPPDFile(file, &error);
-        if (!host) {
+        features = ModelOpenCases::modelOpen(bundle, file, &error);
+        if (features < 0) {
             state.SkipWithError(error.toStdString().c_str());
             return;
         }
-        MRPDE_MACChangeHandlerModel model(bundle, host.get());
-        ppd_file_t* ppd = host->ppd();
-        features = 0;
-        for (ppd_option_t* o = ppdFirstOption(ppd); o; o = ppdNextOption(ppd))
-            features += model.featureWithKey(QString::fromUtf8(o->keyword)) ? 1 : 0;
         benchmark::DoNotOptimize(features);
     }
     state.counters["features"] = features;
