@@ -1,45 +1,12 @@
 #pragma once
-// One model-driven panel opened on a PPD the way the dialog opens it (made,
-// restored, shown, in English), and its controls driven the way a person
-// drives them.
-#include "MRPDE_MACChangeHandlerModel.h"
+// Panels opened on a PPD the way the dialog opens them, and their controls
+// driven the way a person drives them.
 #include "PDEBundle.h"
 #include "TestSupport.h"
 
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTest>
-
-template <class EH, class Controller>
-struct PanelHarness {
-    std::unique_ptr<PrintDialogHost> host;
-    std::shared_ptr<MRPDE_MACChangeHandlerModel> model;
-    std::shared_ptr<EH> eh;
-    Controller* controller = nullptr;
-
-    static std::unique_ptr<PanelHarness> open(const QString& ppd)
-    {
-        auto p = std::make_unique<PanelHarness>();
-        if (!(p->host = TestSupport::openHost(ppd)))
-            return nullptr;
-        auto bundle = PDEBundle::embedded();
-        bundle->setLanguage(QStringLiteral("en"));
-        p->model = std::make_shared<MRPDE_MACChangeHandlerModel>(bundle, p->host.get());
-        if (!(p->eh = EH::create(bundle, p->model)))
-            return nullptr;
-        p->controller = static_cast<Controller*>(p->eh->controller());
-        p->host->setPanels({p->eh.get()});
-        QString error;
-        p->eh->restoreValuesAndReturnError(&error);
-        p->eh->panelView()->show();
-        return p;
-    }
-    QString value(const QString& key) const
-    {
-        PDEFeaturePtr f = model->featureWithKey(key);
-        return f && f->currentValue() ? f->currentValue()->keyword() : QString();
-    }
-};
 
 // A standalone panel on a host with job options, restored and shown as the
 // dialog does; setUp runs on the panel before it is restored.

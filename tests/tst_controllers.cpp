@@ -149,12 +149,10 @@ private slots:
     void choiceControls()
     {
         QFETCH(QString, key);
-        QFETCH(QString, stored);
         QFETCH(QString, unselectable);
         QFETCH(QList<int>, keys);
         QFETCH(QString, value);
-        QFETCH(QString, coating);
-        Bench b(key, stored);
+        Bench b(key, cell<QString>("stored"));
         if (unselectable == u"feature")
             b.f(key)->setSelectable(false);
         else if (!unselectable.isEmpty())
@@ -176,7 +174,7 @@ private slots:
         QTEST(shown(), "after");
         QCOMPARE(b.value(key), value);
         QCOMPARE(b.marked(key), value);
-        QTRY_COMPARE(coat->currentText(), coating);
+        QTRY_COMPARE(coat->currentText(), cell<QString>("coating"));
         QCOMPARE(b.marked(u"Coating"_s), b.value(u"Coating"_s));
         c->setEnabled(true);
         QCOMPARE(c->control()->isEnabled(), unselectable != u"feature");
@@ -293,7 +291,6 @@ private slots:
         QFETCH(int, maximum);
         QFETCH(QString, filter);
         QFETCH(QString, stored);
-        QFETCH(QString, typed);
         QFETCH(QString, shown);
         const QString key = secure ? u"PINCode"_s : u"JOBNAME"_s;
         Bench b(key, stored);
@@ -318,7 +315,7 @@ private slots:
         b.f(key)->observeCurrentValue(&observer, [&seen](MRPDE_MACFeature* f) { seen << f->currentValue()->keyword(); }, false);
         field->setFocus();
         PDELogCapture log;
-        typeText(field, typed);
+        typeText(field, cell<QString>("typed"));
         QCOMPARE(field->text(), shown);
         QTEST(seen, "written");
 
@@ -369,15 +366,13 @@ private slots:
 
     void stepper()
     {
-        QFETCH(qint64, maxValue);
-        QFETCH(QString, typed);
         QFETCH(QString, shown);
         Bench b;
         auto* stepper = b.add<PDEStepper>();
         auto* field = b.add<QLineEdit>();
         QVERIFY(b.show());
         auto c = b.bind<MRPDEStepperController>(u"SetCount"_s, stepper);
-        c->setMaxValue(maxValue);
+        c->setMaxValue(cell<qint64>("maxValue"));
         c->setMinValue(1);
         c->setTextField(field);
         c->resetConfiguration();
@@ -386,7 +381,7 @@ private slots:
         QCOMPARE(field->text(), u"1"_s);
         field->setFocus();
         field->selectAll();
-        for (QChar action : typed) {
+        for (QChar action : cell<QString>("typed")) {
             if (action == u'^')
                 QTest::mouseClick(stepper->upButton(), Qt::LeftButton);
             else if (action == u'v')
@@ -457,7 +452,6 @@ private slots:
     void label()
     {
         QFETCH(QString, locale);
-        QFETCH(QString, key);
         QFETCH(QString, expected);
         if (qEnvironmentVariable("LC_ALL") != locale) {
             QProcess child;
@@ -478,7 +472,7 @@ private slots:
         QCOMPARE(text->text(), u"User ID:"_s);
         b.set(u"USERID"_s, u"dave"_s);  // not followed
         QCOMPARE(text->text(), u"User ID:"_s);
-        c->contentFromLocalizedAttributeKey(key);
+        c->contentFromLocalizedAttributeKey(cell<QString>("key"));
         QCOMPARE(text->text(), expected);
         c->contentFromLocalizedAttributeKey(u"NoSuchAttribute"_s);  // no such attribute: the text stays
         QCOMPARE(text->text(), expected);

@@ -13,7 +13,7 @@
 #include <QRegularExpression>
 
 namespace {
-using Panel = PanelHarness<MRPDE_MACFinishingEH, MRPDE_MACFinishingPDEController>;
+using Panel = TestSupport::OpenedPanel<MRPDE_MACFinishingEH, MRPDE_MACFinishingPDEController>;
 }
 
 class FinishingTest : public QObject {

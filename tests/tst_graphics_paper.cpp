@@ -13,11 +13,6 @@
 
 namespace {
 using Panel = TestSupport::OpenedPanel<MRPDE_MACGraphicsPaperEH, MRPDE_MACGraphicsPaperController>;
-std::unique_ptr<Panel> openPanel(const QString& ppd, const QString& language = QStringLiteral("en"))
-{
-    return Panel::open(ppd, QString(), language);
-}
-
 QStringList tabNames(const Panel& p)
 {
     QStringList t;
@@ -96,9 +91,8 @@ private slots:
 
     void tabsAndRows()
     {
-        QFETCH(QString, ppd);
         QFETCH(QStringList, tabs);
-        auto p = openPanel(ppd);
+        auto p = Panel::open(cell<QString>("ppd"));
         QVERIFY(p);
         QCOMPARE(tabNames(*p), tabs);
         const QJsonObject controls = PanelDescriber::describeControls(p->eh->panelView());
@@ -119,7 +113,7 @@ private slots:
 
     void documentTypeRules()
     {
-        auto p = openPanel(TestSupport::samplePPD());
+        auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
         auto& u = *p->ui;
         QVERIFY(!u.tab1PopUpButton2->isEnabled());  // X-ray contrast waits for X-ray documents
@@ -147,7 +141,7 @@ private slots:
 
     void grayColourModelRules()
     {
-        auto p = openPanel(TestSupport::samplePPD());
+        auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
         auto& u = *p->ui;
         pick(u.tab2PopUpButton2, QStringLiteral("On"));
@@ -168,7 +162,7 @@ private slots:
 
     void preferredColour()
     {
-        auto p = openPanel(TestSupport::samplePPD());
+        auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
         auto& u = *p->ui;
         // Only brightness, contrast and saturation stay on the tab; the balances move below.
@@ -198,8 +192,8 @@ private slots:
     // separator rows follow the media type.
     void paperTabOnly()
     {
-        auto full = openPanel(TestSupport::samplePPD());
-        auto p = openPanel(TestSupport::writePPD(m_dir, QStringLiteral("paper.ppd"), kPaperPPD));
+        auto full = Panel::open(TestSupport::samplePPD());
+        auto p = Panel::open(TestSupport::writePPD(m_dir, QStringLiteral("paper.ppd"), kPaperPPD));
         QVERIFY(full && p);
         auto& u = *p->ui;
         QCOMPARE(tabNames(*p), QStringList{"Paper"});
@@ -242,8 +236,8 @@ private slots:
     {
         QFETCH(QString, language);
         QFETCH(int, shift);
-        auto reference = openPanel(TestSupport::samplePPD());
-        auto p = openPanel(TestSupport::samplePPD(), language);
+        auto reference = Panel::open(TestSupport::samplePPD());
+        auto p = Panel::open(TestSupport::samplePPD(), {}, language);
         QVERIFY(reference && p);
         QCOMPARE(reference->ui->tab4Label1->width() - p->ui->tab4Label1->width(), shift);
         QCOMPARE(reference->ui->tab4PopUpButton1->x() - p->ui->tab4PopUpButton1->x(), shift);
@@ -257,7 +251,7 @@ private slots:
 
     void protocolAnswers()
     {
-        auto p = openPanel(TestSupport::samplePPD());
+        auto p = Panel::open(TestSupport::samplePPD());
         QVERIFY(p);
         const QVariantMap summary = p->eh->summaryInfo();
         QCOMPARE(summary.value(QStringLiteral("DocType")).toString(), QStringLiteral("Standard"));
@@ -304,15 +298,13 @@ private slots:
 
     void throughCommandLine()
     {
-        QFETCH(QStringList, options);
-        QFETCH(QStringList, expected);
         QStringList args{"--ppd", TestSupport::samplePPD(), "--print-options"};
-        for (const QString& o : options)
+        for (const QString& o : cell<QStringList>("options"))
             args << "-o" << o;
         QString out, err;
         QCOMPARE(TestSupport::runApp(args, &out, &err), 0);
         const QStringList lines = out.split(QLatin1Char('\n'));
-        for (const QString& e : expected)
+        for (const QString& e : cell<QStringList>("expected"))
             QVERIFY2(lines.contains(e), qPrintable(e + QStringLiteral(" in\n") + out));
 
         // The description agrees with what is printed.

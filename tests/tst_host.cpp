@@ -15,285 +15,258 @@
 class HostTest : public QObject {
     Q_OBJECT
 private slots:
-    void printSettingsValues();
-    void orientation_data();
-    void orientation();
-    void layoutAndCoverPage_data();
-    void layoutAndCoverPage();
-    void optionStrings_data();
-    void optionStrings();
-    void openErrors_data();
-    void openErrors();
-    void applyOptions();
-    void conflictsResolvedInOrder_data();
-    void conflictsResolvedInOrder();
-    void jobValues_data();
-    void jobValues();
-    void jobOptions();
-    void bundle();
-};
+    void printSettingsValues()
+    {
+        PMPrintSettings s;
+        QString v = QStringLiteral("untouched");
+        QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("k"), &v), int(kPMKeyNotFound));
+        QVERIFY(v.isNull());
+        QCOMPARE(PMPrintSettingsGetValue(nullptr, QStringLiteral("k"), &v), int(kPMInvalidParameter));
+        QCOMPARE(PMPrintSettingsSetValue(&s, QString(), QStringLiteral("x"), false), int(kPMInvalidParameter));
 
-void HostTest::printSettingsValues()
-{
-    PMPrintSettings s;
-    QString v = QStringLiteral("untouched");
-    QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("k"), &v), int(kPMKeyNotFound));
-    QVERIFY(v.isNull());
-    QCOMPARE(PMPrintSettingsGetValue(nullptr, QStringLiteral("k"), &v), int(kPMInvalidParameter));
-    QCOMPARE(PMPrintSettingsSetValue(&s, QString(), QStringLiteral("x"), false), int(kPMInvalidParameter));
+        const QString hostile = QStringLiteral("a b 'c' \"d\" \\ \n=; %s %@ ünï");
+        QCOMPARE(PMPrintSettingsSetValue(&s, QStringLiteral("k"), hostile, false), int(kPMNoError));
+        QCOMPARE(PMPrintSettingsSetValue(&s, QStringLiteral("e"), QLatin1String(""), false), int(kPMNoError));
+        QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("k"), &v), int(kPMNoError));
+        QCOMPARE(v, hostile);
+        QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("e"), &v), int(kPMNoError));
+        QVERIFY(!v.isNull() && v.isEmpty());
+        // Insertion order is kept; setting again replaces in place.
+        s.setValue(QStringLiteral("k"), QStringLiteral("2"));
+        QCOMPARE(s.entries().first().first, QStringLiteral("k"));
 
-    const QString hostile = QStringLiteral("a b 'c' \"d\" \\ \n=; %s %@ ünï");
-    QCOMPARE(PMPrintSettingsSetValue(&s, QStringLiteral("k"), hostile, false), int(kPMNoError));
-    QCOMPARE(PMPrintSettingsSetValue(&s, QStringLiteral("e"), QLatin1String(""), false), int(kPMNoError));
-    QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("k"), &v), int(kPMNoError));
-    QCOMPARE(v, hostile);
-    QCOMPARE(PMPrintSettingsGetValue(&s, QStringLiteral("e"), &v), int(kPMNoError));
-    QVERIFY(!v.isNull() && v.isEmpty());
-    // Insertion order is kept; setting again replaces in place.
-    s.setValue(QStringLiteral("k"), QStringLiteral("2"));
-    QCOMPARE(s.entries().first().first, QStringLiteral("k"));
+        // Through CUPS options and back, the text survives whole.
+        s.setValue(QStringLiteral("k"), hostile);
+        cups_option_t* options = nullptr;
+        const int n = s.toCupsOptions(&options);
+        QCOMPARE(n, 2);
+        QCOMPARE(QString::fromUtf8(cupsGetOption("k", n, options)), hostile);
+        cupsFreeOptions(n, options);
 
-    // Through CUPS options and back, the text survives whole.
-    s.setValue(QStringLiteral("k"), hostile);
-    cups_option_t* options = nullptr;
-    const int n = s.toCupsOptions(&options);
-    QCOMPARE(n, 2);
-    QCOMPARE(QString::fromUtf8(cupsGetOption("k", n, options)), hostile);
-    cupsFreeOptions(n, options);
-
-    unsigned copies = 0;
-    QCOMPARE(PMGetCopies(&s, &copies), int(kPMNoError));
-    QCOMPARE(copies, 1u);
-    s.setValue(QStringLiteral("copies"), QStringLiteral("12"));
-    PMGetCopies(&s, &copies);
-    QCOMPARE(copies, 12u);
-    s.setValue(QStringLiteral("copies"), QStringLiteral("-3"));
-    PMGetCopies(&s, &copies);
-    QCOMPARE(copies, 1u);
-}
-
-void HostTest::orientation_data()
-{
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<int>("expected");
-    QTest::newRow("nothing") << "" << 1;
-    QTest::newRow("portrait") << "orientation-requested=3" << 1;
-    QTest::newRow("landscape") << "orientation-requested=4" << 2;
-    QTest::newRow("reverse landscape") << "orientation-requested=5" << 4;
-    QTest::newRow("reverse portrait") << "orientation-requested=6" << 3;
-    QTest::newRow("landscape alone") << "landscape" << 2;
-    QTest::newRow("requested wins over landscape") << "landscape orientation-requested=3" << 1;
-}
-
-void HostTest::orientation()
-{
-    QFETCH(QString, options);
-    QFETCH(int, expected);
-    PMPrintSettings s;
-    s.addCupsOptionString(options);
-    PMPageFormat format(&s);
-    PMOrientation o {};
-    QCOMPARE(PMGetOrientation(&format, &o), int(kPMNoError));
-    QCOMPARE(int(o), expected);
-}
-
-void HostTest::layoutAndCoverPage_data()
-{
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("columns");
-    QTest::addColumn<int>("cover");
-    QTest::newRow("defaults") << "" << 1 << 1 << 1;
-    QTest::newRow("2-up") << "number-up=2" << 1 << 2 << 1;
-    QTest::newRow("4-up") << "number-up=4" << 2 << 2 << 1;
-    QTest::newRow("6-up") << "number-up=6" << 2 << 3 << 1;
-    QTest::newRow("9-up") << "number-up=9" << 3 << 3 << 1;
-    QTest::newRow("16-up") << "number-up=16" << 4 << 4 << 1;
-    QTest::newRow("odd n-up") << "number-up=5" << 1 << 1 << 1;
-    QTest::newRow("banner first") << "job-sheets=standard,none" << 1 << 1 << 2;
-    QTest::newRow("banner last only") << "job-sheets=none,standard" << 1 << 1 << 1;
-}
-
-void HostTest::layoutAndCoverPage()
-{
-    QFETCH(QString, options);
-    QFETCH(int, rows);
-    QFETCH(int, columns);
-    QFETCH(int, cover);
-    PMPrintSettings s;
-    s.addCupsOptionString(options);
-    int v = 0;
-    QCOMPARE(PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMLayoutRows), &v), int(kPMNoError));
-    QCOMPARE(v, rows);
-    PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMLayoutColumns), &v);
-    QCOMPARE(v, columns);
-    PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMCoverPage), &v);
-    QCOMPARE(v, cover);
-}
-
-void HostTest::optionStrings_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("plain") << "a=1 b=2" << true;
-    QTest::newRow("bare name") << "landscape" << true;
-    QTest::newRow("single quotes") << "k='a b'" << true;
-    QTest::newRow("double quotes") << "k=\"a 'b'\"" << true;
-    QTest::newRow("escaped quote") << "k=a\\'b" << true;
-    QTest::newRow("braces") << "k={a=1 b=2}" << true;
-    QTest::newRow("empty") << "" << true;
-    QTest::newRow("no name") << "=value" << false;
-    QTest::newRow("open quote") << "k='a b" << false;
-    QTest::newRow("open brace") << "k={a" << false;
-    QTest::newRow("stray brace") << "k=a}" << false;
-    QTest::newRow("trailing backslash") << "k=a\\" << false;
-    QTest::newRow("control in name") << "k\x01=1" << false;
-}
-
-void HostTest::optionStrings()
-{
-    QFETCH(QString, text);
-    QFETCH(bool, valid);
-    QString error;
-    QCOMPARE(PrintDialogHost::validateOptionString(text, &error), valid);
-    QCOMPARE(error.isEmpty(), valid);
-}
-
-void HostTest::openErrors_data()
-{
-    QTest::addColumn<QString>("content");  // null: the file does not exist
-    QTest::addColumn<QString>("message");
-    QTest::newRow("missing") << QString() << "no such file";
-    QTest::newRow("not a PPD") << "hello, world\n" << "not a valid PPD file";
-    QTest::newRow("empty") << "" << "not a valid PPD file";
-    QTest::newRow("broken structure") << "*PPD-Adobe: \"4.3\"\n*OpenGroup: A/A\n*OpenGroup: B/B\n" << "line 3";
-    QTest::newRow("a folder") << "<dir>" << "cannot be read";
-}
-
-void HostTest::openErrors()
-{
-    QFETCH(QString, content);
-    QFETCH(QString, message);
-    QTemporaryDir dir;
-    QString path = dir.filePath(QStringLiteral("x.ppd"));
-    if (content == QLatin1String("<dir>")) {
-        QVERIFY(QDir().mkpath(path));
-    } else if (!content.isNull()) {
-        QFile f(path);
-        QVERIFY(f.open(QIODevice::WriteOnly));
-        f.write(content.toUtf8());
+        unsigned copies = 0;
+        QCOMPARE(PMGetCopies(&s, &copies), int(kPMNoError));
+        QCOMPARE(copies, 1u);
+        s.setValue(QStringLiteral("copies"), QStringLiteral("12"));
+        PMGetCopies(&s, &copies);
+        QCOMPARE(copies, 12u);
+        s.setValue(QStringLiteral("copies"), QStringLiteral("-3"));
+        PMGetCopies(&s, &copies);
+        QCOMPARE(copies, 1u);
     }
-    QString error;
-    QVERIFY(!PrintDialogHost::openPPDFile(path, &error));
-    QVERIFY2(error.contains(message), qPrintable(error));
-    QVERIFY(error.contains(path));
-}
 
-void HostTest::applyOptions()
-{
-    auto host = TestSupport::openHost(TestSupport::fixture(QStringLiteral("../../bundle/printers/velmora-m200.ppd")));
-    if (!host) {
+    void orientation_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<int>("expected");
+        QTest::newRow("nothing") << "" << 1;
+        QTest::newRow("portrait") << "orientation-requested=3" << 1;
+        QTest::newRow("landscape") << "orientation-requested=4" << 2;
+        QTest::newRow("reverse landscape") << "orientation-requested=5" << 4;
+        QTest::newRow("reverse portrait") << "orientation-requested=6" << 3;
+        QTest::newRow("landscape alone") << "landscape" << 2;
+        QTest::newRow("requested wins over landscape") << "landscape orientation-requested=3" << 1;
+    }
+
+    void orientation()
+    {
+        PMPrintSettings s;
+        s.addCupsOptionString(cell<QString>("options"));
+        PMPageFormat format(&s);
+        PMOrientation o {};
+        QCOMPARE(PMGetOrientation(&format, &o), int(kPMNoError));
+        QTEST(int(o), "expected");
+    }
+
+    void layoutAndCoverPage_data()
+    {
+        QTest::addColumn<QString>("options");
+        QTest::addColumn<int>("rows");
+        QTest::addColumn<int>("columns");
+        QTest::addColumn<int>("cover");
+        QTest::newRow("defaults") << "" << 1 << 1 << 1;
+        QTest::newRow("2-up") << "number-up=2" << 1 << 2 << 1;
+        QTest::newRow("4-up") << "number-up=4" << 2 << 2 << 1;
+        QTest::newRow("6-up") << "number-up=6" << 2 << 3 << 1;
+        QTest::newRow("9-up") << "number-up=9" << 3 << 3 << 1;
+        QTest::newRow("16-up") << "number-up=16" << 4 << 4 << 1;
+        QTest::newRow("odd n-up") << "number-up=5" << 1 << 1 << 1;
+        QTest::newRow("banner first") << "job-sheets=standard,none" << 1 << 1 << 2;
+        QTest::newRow("banner last only") << "job-sheets=none,standard" << 1 << 1 << 1;
+    }
+
+    void layoutAndCoverPage()
+    {
+        PMPrintSettings s;
+        s.addCupsOptionString(cell<QString>("options"));
+        int v = 0;
+        QCOMPARE(PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMLayoutRows), &v), int(kPMNoError));
+        QTEST(v, "rows");
+        PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMLayoutColumns), &v);
+        QTEST(v, "columns");
+        PMPrintSettingsGetDerivedInt(&s, QLatin1String(kPMCoverPage), &v);
+        QTEST(v, "cover");
+    }
+
+    void optionStrings_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("valid");
+        QTest::newRow("plain") << "a=1 b=2" << true;
+        QTest::newRow("bare name") << "landscape" << true;
+        QTest::newRow("single quotes") << "k='a b'" << true;
+        QTest::newRow("double quotes") << "k=\"a 'b'\"" << true;
+        QTest::newRow("escaped quote") << "k=a\\'b" << true;
+        QTest::newRow("braces") << "k={a=1 b=2}" << true;
+        QTest::newRow("empty") << "" << true;
+        QTest::newRow("no name") << "=value" << false;
+        QTest::newRow("open quote") << "k='a b" << false;
+        QTest::newRow("open brace") << "k={a" << false;
+        QTest::newRow("stray brace") << "k=a}" << false;
+        QTest::newRow("trailing backslash") << "k=a\\" << false;
+        QTest::newRow("control in name") << "k\x01=1" << false;
+    }
+
+    void optionStrings()
+    {
+        QFETCH(bool, valid);
+        QString error;
+        QCOMPARE(PrintDialogHost::validateOptionString(cell<QString>("text"), &error), valid);
+        QCOMPARE(error.isEmpty(), valid);
+    }
+
+    void openErrors_data()
+    {
+        QTest::addColumn<QString>("content");  // null: the file does not exist
+        QTest::addColumn<QString>("message");
+        QTest::newRow("missing") << QString() << "no such file";
+        QTest::newRow("not a PPD") << "hello, world\n" << "not a valid PPD file";
+        QTest::newRow("empty") << "" << "not a valid PPD file";
+        QTest::newRow("broken structure") << "*PPD-Adobe: \"4.3\"\n*OpenGroup: A/A\n*OpenGroup: B/B\n" << "line 3";
+        QTest::newRow("a folder") << "<dir>" << "cannot be read";
+    }
+
+    void openErrors()
+    {
+        QFETCH(QString, content);
         QTemporaryDir dir;
-        host = TestSupport::openHost(TestSupport::writePPD(dir, QStringLiteral("h.ppd"), QString()));
+        QString path = dir.filePath(QStringLiteral("x.ppd"));
+        if (content == QLatin1String("<dir>")) {
+            QVERIFY(QDir().mkpath(path));
+        } else if (!content.isNull()) {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(content.toUtf8());
+        }
+        QString error;
+        QVERIFY(!PrintDialogHost::openPPDFile(path, &error));
+        QVERIFY2(error.contains(cell<QString>("message")), qPrintable(error));
+        QVERIFY(error.contains(path));
     }
-    QVERIFY(host);
-    QString error;
-    QVERIFY(!host->applyOptions(QStringLiteral("PageSize=Nonsense"), &error));
-    QVERIFY2(error.contains(QStringLiteral("PageSize")) && error.contains(QStringLiteral("Letter")), qPrintable(error));
-    QCOMPARE(QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), "PageSize")->choice), QStringLiteral("Letter"));
-    // A bad option in a list changes nothing of the list.
-    QVERIFY(!host->applyOptions(QStringLiteral("PageSize=A4 note=x PageSize=Bad"), &error));
-    QVERIFY(!host->printSettings()->contains(QStringLiteral("note")));
 
-    QVERIFY(host->applyOptions(QStringLiteral("PageSize=A4 note='two words' copies=2"), &error));
-    QCOMPARE(QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), "PageSize")->choice), QStringLiteral("A4"));
-    QVERIFY(!host->printSettings()->contains(QStringLiteral("PageSize")));
-    QCOMPARE(host->printSettings()->value(QStringLiteral("note")), QStringLiteral("two words"));
-}
+    void applyOptions()
+    {
+        auto host = TestSupport::openHost(TestSupport::fixture(QStringLiteral("../../bundle/printers/velmora-m200.ppd")));
+        if (!host) {
+            QTemporaryDir dir;
+            host = TestSupport::openHost(TestSupport::writePPD(dir, QStringLiteral("h.ppd"), QString()));
+        }
+        QVERIFY(host);
+        QString error;
+        QVERIFY(!host->applyOptions(QStringLiteral("PageSize=Nonsense"), &error));
+        QVERIFY2(error.contains(QStringLiteral("PageSize")) && error.contains(QStringLiteral("Letter")), qPrintable(error));
+        QCOMPARE(QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), "PageSize")->choice), QStringLiteral("Letter"));
+        // A bad option in a list changes nothing of the list.
+        QVERIFY(!host->applyOptions(QStringLiteral("PageSize=A4 note=x PageSize=Bad"), &error));
+        QVERIFY(!host->printSettings()->contains(QStringLiteral("note")));
 
-// Every -o goes through approval, in the order written; a later choice
-// wins, what resolution changed is told, and a conflict only the installed
-// hardware could resolve is an error. IPP attributes become the marks they
-// stand for and are not sent beside them.
-void HostTest::conflictsResolvedInOrder_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QStringList>("marks");  // key=choice expected among the job's options
-    QTest::addColumn<QString>("told");       // the resolution line, or the error
-    QTest::newRow("media type rules out duplex") << QStringList{"Duplex=DuplexNoTumble MediaType=Transparency"}
-                                                 << QStringList{"Duplex=None", "MediaType=Transparency"} << "2-Sided Printing set to Off";
-    QTest::newRow("the later choice wins") << QStringList{"MediaType=Transparency", "Duplex=DuplexNoTumble"}
-                                           << QStringList{"Duplex=DuplexNoTumble", "MediaType=Plain"} << "Media Type set to Plain";
-    QTest::newRow("stapling picks the finisher's bin") << QStringList{"StapleLocation=Single"} << QStringList{"StapleLocation=Single"}
-                                                       << "Output Bin set to";
-    QTest::newRow("tray gone with the optional tray") << QStringList{"InputSlot=Tray4 OptionalTray=OneTray"}
-                                                      << QStringList{"InputSlot=Auto"} << "Paper Source set to Auto Select";
-    QTest::newRow("only hardware could resolve") << QStringList{"Option4=False JobSetting=Store"} << QStringList{}
-                                                 << "JobSetting=Store conflicts with Option4=False";
-    QTest::newRow("IPP colour mode") << QStringList{"print-color-mode=monochrome"} << QStringList{"ColorModel=Gray"} << "";
-    QTest::newRow("IPP sides") << QStringList{"sides=two-sided-short-edge"} << QStringList{"Duplex=DuplexTumble"} << "";
-}
-
-void HostTest::conflictsResolvedInOrder()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QStringList, marks);
-    QFETCH(QString, told);
-    QString error;
-    auto session = PanelSession::open({TestSupport::samplePPD(), {}, {}, {}, options}, &error);
-    if (marks.isEmpty()) {
-        QVERIFY(!session);
-        QVERIFY2(error.contains(told), qPrintable(error));
-        return;
+        QVERIFY(host->applyOptions(QStringLiteral("PageSize=A4 note='two words' copies=2"), &error));
+        QCOMPARE(QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), "PageSize")->choice), QStringLiteral("A4"));
+        QVERIFY(!host->printSettings()->contains(QStringLiteral("PageSize")));
+        QCOMPARE(host->printSettings()->value(QStringLiteral("note")), QStringLiteral("two words"));
     }
-    QVERIFY2(session, qPrintable(error));
-    QStringList got;
-    for (const auto& [key, value] : session->host().jobOptions()) {
-        got << key + QLatin1Char('=') + value;
-        QVERIFY2(key != QLatin1String("print-color-mode") && key != QLatin1String("sides"), qPrintable(key));
+
+    // Every -o goes through approval, in the order written; a later choice
+    // wins, what resolution changed is told, and a conflict only the installed
+    // hardware could resolve is an error. IPP attributes become the marks they
+    // stand for and are not sent beside them.
+    void conflictsResolvedInOrder_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QStringList>("marks");  // key=choice expected among the job's options
+        QTest::addColumn<QString>("told");       // the resolution line, or the error
+        QTest::newRow("media type rules out duplex") << QStringList{"Duplex=DuplexNoTumble MediaType=Transparency"}
+                                                     << QStringList{"Duplex=None", "MediaType=Transparency"} << "2-Sided Printing set to Off";
+        QTest::newRow("the later choice wins") << QStringList{"MediaType=Transparency", "Duplex=DuplexNoTumble"}
+                                               << QStringList{"Duplex=DuplexNoTumble", "MediaType=Plain"} << "Media Type set to Plain";
+        QTest::newRow("stapling picks the finisher's bin") << QStringList{"StapleLocation=Single"} << QStringList{"StapleLocation=Single"}
+                                                           << "Output Bin set to";
+        QTest::newRow("tray gone with the optional tray") << QStringList{"InputSlot=Tray4 OptionalTray=OneTray"}
+                                                          << QStringList{"InputSlot=Auto"} << "Paper Source set to Auto Select";
+        QTest::newRow("only hardware could resolve") << QStringList{"Option4=False JobSetting=Store"} << QStringList{}
+                                                     << "JobSetting=Store conflicts with Option4=False";
+        QTest::newRow("IPP colour mode") << QStringList{"print-color-mode=monochrome"} << QStringList{"ColorModel=Gray"} << "";
+        QTest::newRow("IPP sides") << QStringList{"sides=two-sided-short-edge"} << QStringList{"Duplex=DuplexTumble"} << "";
     }
-    for (const QString& m : marks)
-        QVERIFY2(got.contains(m), qPrintable(m));
-    const QString line = session->openingNotes().join(QLatin1Char('\n'));
-    QVERIFY2(told.isEmpty() ? line.isEmpty() : line.contains(told), qPrintable(line));
-}
 
-void HostTest::jobValues_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("value");
-    QTest::addColumn<bool>("valid");
-    QTest::newRow("copies") << "copies" << "2" << true;
-    QTest::newRow("copies not a number") << "copies" << "abc" << false;
-    QTest::newRow("no copies") << "copies" << "0" << false;
-    QTest::newRow("too many copies") << "copies" << "10000" << false;
-    QTest::newRow("four up") << "number-up" << "4" << true;
-    QTest::newRow("three up") << "number-up" << "3" << false;
-    QTest::newRow("ranges") << "page-ranges" << "1-3,5,8-" << true;
-    QTest::newRow("range up to") << "page-ranges" << "-4" << true;
-    QTest::newRow("letters") << "page-ranges" << "z-a" << false;
-    QTest::newRow("backwards") << "page-ranges" << "5-2" << false;
-    QTest::newRow("page zero") << "page-ranges" << "0-2" << false;
-    QTest::newRow("empty part") << "page-ranges" << "1,,2" << false;
-    QTest::newRow("reverse portrait") << "orientation-requested" << "6" << true;
-    QTest::newRow("orientation 7") << "orientation-requested" << "7" << false;
-    QTest::newRow("other keys pass") << "note" << "anything" << true;
-}
+    void conflictsResolvedInOrder()
+    {
+        QFETCH(QStringList, marks);
+        QFETCH(QString, told);
+        QString error;
+        auto session = PanelSession::open({TestSupport::samplePPD(), {}, {}, {}, cell<QStringList>("options")}, &error);
+        if (marks.isEmpty()) {
+            QVERIFY(!session);
+            QVERIFY2(error.contains(told), qPrintable(error));
+            return;
+        }
+        QVERIFY2(session, qPrintable(error));
+        QStringList got;
+        for (const auto& [key, value] : session->host().jobOptions()) {
+            got << key + QLatin1Char('=') + value;
+            QVERIFY2(key != QLatin1String("print-color-mode") && key != QLatin1String("sides"), qPrintable(key));
+        }
+        for (const QString& m : marks)
+            QVERIFY2(got.contains(m), qPrintable(m));
+        const QString line = session->openingNotes().join(QLatin1Char('\n'));
+        QVERIFY2(told.isEmpty() ? line.isEmpty() : line.contains(told), qPrintable(line));
+    }
 
-void HostTest::jobValues()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, value);
-    QFETCH(bool, valid);
-    QString error;
-    QCOMPARE(PrintDialogHost::checkJobValue(key, value, &error), valid);
-    QCOMPARE(error.contains(key), !valid);
-}
+    void jobValues_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("valid");
+        QTest::newRow("copies") << "copies" << "2" << true;
+        QTest::newRow("copies not a number") << "copies" << "abc" << false;
+        QTest::newRow("no copies") << "copies" << "0" << false;
+        QTest::newRow("too many copies") << "copies" << "10000" << false;
+        QTest::newRow("four up") << "number-up" << "4" << true;
+        QTest::newRow("three up") << "number-up" << "3" << false;
+        QTest::newRow("ranges") << "page-ranges" << "1-3,5,8-" << true;
+        QTest::newRow("range up to") << "page-ranges" << "-4" << true;
+        QTest::newRow("letters") << "page-ranges" << "z-a" << false;
+        QTest::newRow("backwards") << "page-ranges" << "5-2" << false;
+        QTest::newRow("page zero") << "page-ranges" << "0-2" << false;
+        QTest::newRow("empty part") << "page-ranges" << "1,,2" << false;
+        QTest::newRow("trailing comma") << "page-ranges" << "2," << false;
+        QTest::newRow("reverse portrait") << "orientation-requested" << "6" << true;
+        QTest::newRow("orientation 7") << "orientation-requested" << "7" << false;
+        QTest::newRow("other keys pass") << "note" << "anything" << true;
+    }
 
-void HostTest::jobOptions()
-{
-    QTemporaryDir dir;
-    const QString ppd = TestSupport::writePPD(dir, QStringLiteral("j.ppd"), QStringLiteral(R"(
+    void jobValues()
+    {
+        QFETCH(QString, key);
+        QFETCH(bool, valid);
+        QString error;
+        QCOMPARE(PrintDialogHost::checkJobValue(key, cell<QString>("value"), &error), valid);
+        QCOMPARE(error.contains(key), !valid);
+    }
+
+    void jobOptions()
+    {
+        QTemporaryDir dir;
+        const QString ppd = TestSupport::writePPD(dir, QStringLiteral("j.ppd"), QStringLiteral(R"(
 *OpenGroup: InstallableOptions/Installed Options
 *OpenUI *Option2/Duplex Unit: Boolean
 *DefaultOption2: True
@@ -307,45 +280,46 @@ void HostTest::jobOptions()
 *Duplex DuplexNoTumble/Long Edge: ""
 *CloseUI: *Duplex
 )"));
-    auto host = TestSupport::openHost(ppd);
-    QVERIFY(host);
-    QString error;
-    QVERIFY(host->applyOptions(QStringLiteral("Duplex=DuplexNoTumble zeta=1 alpha='x y'"), &error));
-    PrintDialogHost::OptionList expected{{"Duplex", "DuplexNoTumble"}, {"PageSize", "Letter"},
-                                         {"alpha", "x y"}, {"zeta", "1"}};
-    QCOMPARE(host->jobOptions(), expected);
-}
+        auto host = TestSupport::openHost(ppd);
+        QVERIFY(host);
+        QString error;
+        QVERIFY(host->applyOptions(QStringLiteral("Duplex=DuplexNoTumble zeta=1 alpha='x y'"), &error));
+        PrintDialogHost::OptionList expected{{"Duplex", "DuplexNoTumble"}, {"PageSize", "Letter"},
+                                             {"alpha", "x y"}, {"zeta", "1"}};
+        QCOMPARE(host->jobOptions(), expected);
+    }
 
-void HostTest::bundle()
-{
-    QTemporaryDir dir;
-    auto b = TestSupport::bundleWithInfo(dir, {{"UseMergedPDE", true}, {"DEBUG", "NO"}, {"CFBundleIdentifier", "org.example"}});
-    QVERIFY(b);
-    QCOMPARE(b->objectForInfoDictionaryKey(QStringLiteral("UseMergedPDE")).typeId(), int(QMetaType::Bool));
-    QCOMPARE(b->bundleIdentifier(), QStringLiteral("org.example"));
-    QVERIFY(b->pathForResource(QStringLiteral("Nothing"), QStringLiteral("plist")).isNull());
+    void bundle()
+    {
+        QTemporaryDir dir;
+        auto b = TestSupport::bundleWithInfo(dir, {{"UseMergedPDE", true}, {"DEBUG", "NO"}, {"CFBundleIdentifier", "org.example"}});
+        QVERIFY(b);
+        QCOMPARE(b->objectForInfoDictionaryKey(QStringLiteral("UseMergedPDE")).typeId(), int(QMetaType::Bool));
+        QCOMPARE(b->bundleIdentifier(), QStringLiteral("org.example"));
+        QVERIFY(b->pathForResource(QStringLiteral("Nothing"), QStringLiteral("plist")).isNull());
 
-    auto embedded = PDEBundle::embedded();
-    QVERIFY(embedded);
-    QCOMPARE(embedded->objectForInfoDictionaryKey(QStringLiteral("UseMergedPDE")).toString(), QStringLiteral("YES"));
-    QVERIFY(!embedded->pathForResource(QStringLiteral("velmora-c5500"), QStringLiteral("ppd")).isEmpty());
-    embedded->setLanguage(QStringLiteral("de"));
-    QCOMPARE(embedded->language(), QStringLiteral("de"));
-    QCOMPARE(embedded->localizedString(QStringLiteral("UserID"), QStringLiteral("Localizable")), QStringLiteral("Benutzer-ID"));
-    QCOMPARE(embedded->localizedString(QStringLiteral("NoSuchKey"), QStringLiteral("Localizable")), QStringLiteral("NoSuchKey"));
-    embedded->setLanguage(QStringLiteral("xx"));
-    QCOMPARE(embedded->language(), QStringLiteral("en"));
+        auto embedded = PDEBundle::embedded();
+        QVERIFY(embedded);
+        QCOMPARE(embedded->objectForInfoDictionaryKey(QStringLiteral("UseMergedPDE")).toString(), QStringLiteral("YES"));
+        QVERIFY(!embedded->pathForResource(QStringLiteral("velmora-c5500"), QStringLiteral("ppd")).isEmpty());
+        embedded->setLanguage(QStringLiteral("de"));
+        QCOMPARE(embedded->language(), QStringLiteral("de"));
+        QCOMPARE(embedded->localizedString(QStringLiteral("UserID"), QStringLiteral("Localizable")), QStringLiteral("Benutzer-ID"));
+        QCOMPARE(embedded->localizedString(QStringLiteral("NoSuchKey"), QStringLiteral("Localizable")), QStringLiteral("NoSuchKey"));
+        embedded->setLanguage(QStringLiteral("xx"));
+        QCOMPARE(embedded->language(), QStringLiteral("en"));
 
-    QString error;
-    QVERIFY(!PDEBundle::open(dir.filePath(QStringLiteral("nowhere")), &error));
-    QVERIFY(error.contains(QStringLiteral("Info.json")));
-    QFile bad(dir.filePath(QStringLiteral("Info.json")));
-    QVERIFY(bad.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    bad.write("[1,2");
-    bad.close();
-    QVERIFY(!PDEBundle::open(dir.path(), &error));
-    QVERIFY(error.contains(QStringLiteral("not a JSON object")));
-}
+        QString error;
+        QVERIFY(!PDEBundle::open(dir.filePath(QStringLiteral("nowhere")), &error));
+        QVERIFY(error.contains(QStringLiteral("Info.json")));
+        QFile bad(dir.filePath(QStringLiteral("Info.json")));
+        QVERIFY(bad.open(QIODevice::WriteOnly | QIODevice::Truncate));
+        bad.write("[1,2");
+        bad.close();
+        QVERIFY(!PDEBundle::open(dir.path(), &error));
+        QVERIFY(error.contains(QStringLiteral("not a JSON object")));
+    }
+};
 
 QTEST_MAIN(HostTest)
 #include "tst_host.moc"

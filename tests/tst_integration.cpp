@@ -142,7 +142,6 @@ private slots:
     {
         QFETCH(bool, queue);
         QFETCH(int, copies);
-        QFETCH(bool, collate);
         QFETCH(bool, refuse);
         QFETCH(QStringList, expected);
         if (queue && !m_cups.isRunning())
@@ -159,7 +158,7 @@ private slots:
             a->printAnswer = false;
         QVERIFY2(addPanels(panels, dialog, printer, queue ? QString() : TestSupport::samplePPD(), {a}), qPrintable(panels.errorString()));
         printer.setCopyCount(copies);
-        printer.setCollateCopies(collate);
+        printer.setCollateCopies(cell<bool>("collate"));
         QCOMPARE(panels.applyToPrinter(&printer), !refuse);
         QCOMPARE(m_journal.contains(QStringLiteral("A:save")), !refuse);
         if (refuse) {

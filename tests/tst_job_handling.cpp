@@ -15,11 +15,6 @@
 
 namespace {
 using Panel = TestSupport::OpenedPanel<MRPDE_MACJobHandlingEH, MRPDE_MACJobHandlingPDEController>;
-std::unique_ptr<Panel> openPanel(const QString& ppd, const QString& options = QString())
-{
-    return Panel::open(ppd, options);
-}
-
 // A field of the panel, also in a sub-view that is not shown.
 QLineEdit* lineEdit(const QString& name)
 {
@@ -80,10 +75,8 @@ private slots:
 
     void printModes()
     {
-        QFETCH(QString, ppd);
-        QFETCH(QString, options);
         QFETCH(QStringList, selectable);
-        auto p = openPanel(ppd, options);
+        auto p = Panel::open(cell<QString>("ppd"), cell<QString>("options"));
         QVERIFY(p);
         QStringList offered;
         for (const PDEChoicePtr& c : p->model->featureWithKey(QStringLiteral("JobSetting"))->choices())
@@ -110,14 +103,13 @@ private slots:
     void subViewSwaps()
     {
         QFETCH(QString, popUp);
-        QFETCH(QString, title);
-        auto p = openPanel(c5500);
+        auto p = Panel::open(c5500);
         QVERIFY(p);
         const bool printMode = popUp == QLatin1String("printModePopUpButton");
         auto current = [&] { return printMode ? p->controller->currentPrintModeView() : p->controller->currentJobAccountingView(); };
         QCOMPARE(current() ? current()->objectName() : QString(), printMode ? QStringLiteral("customNormalView") : QString());
         p->ui->m_tabView->setCurrentIndex(printMode ? 0 : 1);
-        pick(p->eh->panelView()->findChild<QComboBox*>(popUp), title);
+        pick(p->eh->panelView()->findChild<QComboBox*>(popUp), cell<QString>("title"));
         QVERIFY(current());
         QTEST(current()->objectName(), "view");
         QVERIFY(current()->isVisibleTo(p->eh->panelView()));
@@ -149,15 +141,11 @@ private slots:
 
     void fieldRules()
     {
-        QFETCH(QString, ppd);
-        QFETCH(QString, options);
-        QFETCH(QString, field);
-        QFETCH(QString, typed);
-        auto p = openPanel(ppd, options);
-        QLineEdit* edit = p ? lineEdit(field) : nullptr;
+        auto p = Panel::open(cell<QString>("ppd"), cell<QString>("options"));
+        QLineEdit* edit = p ? lineEdit(cell<QString>("field")) : nullptr;
         QVERIFY(edit && edit->isEnabled());
         edit->clear();
-        QTest::keyClicks(edit, typed);
+        QTest::keyClicks(edit, cell<QString>("typed"));
         QTEST(edit->text(), "shown");
     }
 
@@ -194,11 +182,10 @@ private slots:
 
     void printChecks()
     {
-        QFETCH(QString, ppd);
         QFETCH(QString, options);
         QFETCH(QString, alert);
         QFETCH(QString, tab);
-        auto p = openPanel(ppd, options);
+        auto p = Panel::open(cell<QString>("ppd"), options);
         QVERIFY(p);
         PDEAlerts::clearLastAlertText();
         QWidget* before = p->ui->m_tabView->currentWidget();
@@ -235,14 +222,12 @@ private slots:
 
     void delayedWrites()
     {
-        QFETCH(QString, field);
         QFETCH(QString, key);
-        QFETCH(bool, delayed);
-        auto p = openPanel(c5500, QStringLiteral("VELSecureReleaseOption3=Off"));
-        QLineEdit* edit = p ? lineEdit(field) : nullptr;
+        auto p = Panel::open(c5500, QStringLiteral("VELSecureReleaseOption3=Off"));
+        QLineEdit* edit = p ? lineEdit(cell<QString>("field")) : nullptr;
         QVERIFY(edit);
         QTest::keyClicks(edit, QStringLiteral("2468"));
-        QCOMPARE(p->value(key), delayed ? QString() : QStringLiteral("2468"));
+        QCOMPARE(p->value(key), cell<bool>("delayed") ? QString() : QStringLiteral("2468"));
         p->eh->shouldPrint();
         QCOMPARE(p->value(key), QStringLiteral("2468"));
     }
@@ -264,10 +249,9 @@ private slots:
     void confirmationWindow()
     {
         QFETCH(QString, ppd);
-        QFETCH(QString, options);
         QFETCH(QStringList, typed);
         QFETCH(bool, ok);
-        auto p = openPanel(ppd, options);
+        auto p = Panel::open(ppd, cell<QString>("options"));
         QVERIFY(p && p->controller->needsJAConfirmation());
         QStringList alerts;
         PDEAlerts::setHandler([&](const PDEAlerts::Alert& a) { return alerts << a.title, int(PDEAlerts::DefaultButton); });
@@ -296,7 +280,7 @@ private slots:
 
     void protocolAndSecrets()
     {
-        auto p = openPanel(c5500, QStringLiteral("ColorModel=Gray AccountType=Pincode PINCode=bob"));
+        auto p = Panel::open(c5500, QStringLiteral("ColorModel=Gray AccountType=Pincode PINCode=bob"));
         QVERIFY(p);
         QVERIFY(p->eh->panelKind().endsWith(QStringLiteral(".jobHandlingPDE")));
         QCOMPARE(p->eh->panelName(), QStringLiteral("Job Handling"));

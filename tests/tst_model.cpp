@@ -120,9 +120,8 @@ private slots:
     {
         QFETCH(QString, option);
         QFETCH(QString, saved);
-        QFETCH(QString, fullName);
         QFETCH(QString, expected);
-        PDEUserInfo::setFullUserNameOverride(fullName);
+        PDEUserInfo::setFullUserNameOverride(cell<QString>("fullName"));
         auto h = host({}, saved.isNull() ? QVariantMap() : QVariantMap {{option, saved}});
         MRPDE_MACChangeHandlerModel model(m_bundle, h.get());
         PDEFeaturePtr f = model.featureWithKey(option);

@@ -200,14 +200,12 @@ private slots:
 
     void badInputChangesNothing()
     {
-        QFETCH(QString, queue);
         QFETCH(QString, name);
-        QFETCH(QString, message);
         const QByteArray before = fileBytes(PresetStore::lpoptionsPath());
-        PresetStore presets(queue, m_server.address());
+        PresetStore presets(cell<QString>("queue"), m_server.address());
         QString error;
         QVERIFY(!presets.save(name, {{"note", "never saved"}}, &error));
-        QVERIFY2(error.contains(message), qPrintable(error));
+        QVERIFY2(error.contains(cell<QString>("message")), qPrintable(error));
         error.clear();
         QVERIFY(!presets.remove(name, &error) && !error.isEmpty());
         QCOMPARE(fileBytes(PresetStore::lpoptionsPath()), before);

@@ -12,7 +12,7 @@
 #include "ui_Security.h"
 
 namespace {
-using Panel = PanelHarness<MRPDESecurityEH, MRPDESecurityPanelController>;
+using Panel = TestSupport::OpenedPanel<MRPDESecurityEH, MRPDESecurityPanelController>;
 
 const QString kDefaultWarning =
     QStringLiteral("You must enter a 1-9 alphanumeric password and re-enter it for confirmation in order to use Password Job feature.");
@@ -185,9 +185,8 @@ private slots:
 
     void refusedPrint()
     {
-        QFETCH(QString, ppd);
         QFETCH(QString, language);
-        const QStringList args{"--ppd", ppd, "--print-options", "-o", "VELHardCopySecurity=Password HCSEnterPassword=abc1 HCSConfirmPassword=abc2"};
+        const QStringList args{"--ppd", cell<QString>("ppd"), "--print-options", "-o", "VELHardCopySecurity=Password HCSEnterPassword=abc1 HCSConfirmPassword=abc2"};
         QString out, err;
         QCOMPARE(TestSupport::runApp(args, &out, &err, {"LANG=" + language, "LC_ALL=" + language, "LANGUAGE=" + language.left(2)}), 3);
         QVERIFY2(err.contains(cell<QString>("message")), qPrintable(err));
