@@ -124,9 +124,10 @@ int main(int argc, char** argv)
     const bool headless = cl.isHeadless() || !(canShowWindow || qEnvironmentVariableIsSet("PRINT_PANELS_SCREENSHOTS"));
     if (headless) {
         qInstallMessageHandler(quietQtMessages);
-        // Nothing is drawn: the minimal platform skips the font database and
-        // the backing stores the offscreen one sets up.
-        qputenv("QT_QPA_PLATFORM", "minimal");
+        // Off screen rather than minimal: the watermark font list needs
+        // fontconfig, and with the offscreen platform Qt's font database owns
+        // fontconfig's set-up and frees it on exit.
+        qputenv("QT_QPA_PLATFORM", "offscreen");
     } else if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

@@ -13,7 +13,7 @@ QList<PictureSpec> swatchPictures()
                                                 {"magenta", QColor(0xc2, 0x18, 0x9b)}};
     QList<PictureSpec> specs;
     for (const auto& [name, colour] : colours)
-        specs.append({name, QSize(24, 16), [colour](QPainter& p, const QRectF& r) {
+        specs.append({name, QSize(24, 16), [colour = colour](QPainter& p, const QRectF& r) {
                           p.setPen(QPen(ink(), 1));
                           p.setBrush(colour);
                           p.drawRoundedRect(r.adjusted(1.5, 1.5, -1.5, -1.5), 3, 3);
