@@ -7,6 +7,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
+#include <QStackedWidget>
+#include <QTabWidget>
 #include <QTest>
 
 namespace TestSupport {
@@ -126,4 +128,15 @@ int runApp(const QStringList& args, QString* out, QString* err, const QStringLis
     return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
 }
 
+}
+
+QPixmap TestSupport::shownPixmap(QLabel* label)
+{
+    for (QWidget* w = label; w->parentWidget(); w = w->parentWidget()) {
+        if (auto* stack = qobject_cast<QStackedWidget*>(w->parentWidget()))
+            if (auto* tabs = qobject_cast<QTabWidget*>(stack->parentWidget()))
+                tabs->setCurrentWidget(w);
+    }
+    label->window()->show();
+    return label->pixmap();
 }

@@ -4,6 +4,8 @@
 #include "PDEPluginCallback.h"
 #include "PrintDialogHost.h"
 
+#include <QLabel>
+#include <QPixmap>
 #include <QSet>
 #include <QString>
 #include <QTemporaryDir>
@@ -30,6 +32,9 @@ QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QStri
 // Runs print-panels; answers the exit status and fills stdout/stderr.
 // extraEnv: "NAME=value" sets, "-NAME" removes a variable.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
+// A picture label's pixmap as the user sees it: the tabs that hold the label
+// brought to the front and its window shown (pictures load when shown).
+QPixmap shownPixmap(QLabel* label);
 
 // One model-driven panel opened the way the dialog opens it: the PPD with
 // the -o options applied, the model and panel made in the language given,

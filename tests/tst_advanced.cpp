@@ -183,7 +183,7 @@ private slots:
         Ui::AdvancedOptionPDE& u = *o.panel->ui();
         QTEST(u.posterView->property("imageName").toString(), "picture");
         QTEST(u.overlapField->isEnabled(), "overlap");
-        QVERIFY(!u.posterView->pixmap().isNull());
+        QVERIFY(!TestSupport::shownPixmap(u.posterView).isNull());
     }
 
     // The host's update signal: more pages per sheet turn poster printing off,

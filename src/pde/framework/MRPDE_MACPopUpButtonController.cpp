@@ -15,13 +15,26 @@ MRPDE_MACPopUpButtonController::MRPDE_MACPopUpButtonController(const PDEFeatureP
     if (!feature->selectable())
         popUp->setEnabled(false);
     // A fresh list of items, one per choice; per-item enabling is ours alone.
-    auto* items = new QStandardItemModel(popUp);
+    // The combo box's own item list is refilled in one insertion: a list
+    // model of our own would cost a round of connections per pop-up.
+    auto* items = qobject_cast<QStandardItemModel*>(popUp->model());
+    if (!items || items->QObject::parent() != popUp) {
+        items = new QStandardItemModel(popUp);
+        popUp->setModel(items);  // the combo box deletes a former list of its own
+    }
+    popUp->clear();
+    QList<QStandardItem*> rows;
+    int firstSelectable = -1;
     for (const PDEChoicePtr& choice : feature->choices()) {
         auto* item = new QStandardItem(choice->displayString());
         item->setEnabled(choice->selectable());
-        items->appendRow(item);
+        if (firstSelectable < 0 && choice->selectable())
+            firstSelectable = int(rows.size());
+        rows.append(item);
     }
-    popUp->setModel(items);  // the combo box deletes a former list of its own
+    items->invisibleRootItem()->appendRows(rows);
+    // As with a new list: the first item the user may pick is the current one.
+    popUp->setCurrentIndex(firstSelectable);
     connect(popUp, &QComboBox::activated, this, [this, popUp] { handlePopUpSelection(popUp); });
     observeFeatureCurrentValue(true);
 }

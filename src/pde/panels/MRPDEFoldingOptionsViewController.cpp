@@ -5,12 +5,12 @@
 #include "MRPDE_MACLabelController.h"
 #include "MRPDE_MACPopUpButtonController.h"
 #include "PDEBundle.h"
+#include "PDELazyPicture.h"
 #include "PDELog.h"
 #include "PDEStepper.h"
 #include "ui_FoldingOptions.h"
 
 #include <QApplication>
-#include <QPixmap>
 
 const MRPDEFoldingOptionsViewController::FoldKind MRPDEFoldingOptionsViewController::kCFolding{
     QStringLiteral("CFoldingPattern"), QStringLiteral("CFoldingDividedSet"), QStringLiteral("KEY_CFoldingPattern"),
@@ -233,8 +233,8 @@ void MRPDEFoldingOptionsViewController::showPatternImage(const QString& foldKeyw
     const QString name = index >= 0 ? images.at(index) : QString();
     std::shared_ptr<PDEBundle> bundle = dataModel ? dataModel->pdeBundle() : nullptr;
     const QString path = bundle && !name.isEmpty() ? bundle->pathForResource(name, QStringLiteral("png")) : QString();
-    view->setPixmap(path.isEmpty() ? QPixmap() : QPixmap(path));
-    view->setProperty("imageName", path.isEmpty() ? QString() : name);
+    const bool shown = PDELazyPicture::set(view, path);
+    view->setProperty("imageName", shown ? name : QString());
 }
 
 void MRPDEFoldingOptionsViewController::CFoldingPatternOptionsChanged()

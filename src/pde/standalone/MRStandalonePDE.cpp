@@ -1,11 +1,15 @@
 #include "MRStandalonePDE.h"
 
+#include "PDELazyPicture.h"
+
 #include "PDEBundle.h"
 #include "PDEChoiceList.h"
 #include "PDEHelp.h"
+#include "PDELazyPicture.h"
 #include "PDELog.h"
 #include "PDEPluginCallback.h"
 #include "PDEVersionChecks.h"
+#include "PDEWhenShown.h"
 #include "PMPageFormat.h"
 #include "PMPrintSettings.h"
 
@@ -15,7 +19,6 @@
 #include <QLabel>
 #include <QLocale>
 #include <QMetaMethod>
-#include <QPixmap>
 #include <QToolButton>
 #include <cups/ppd.h>
 
@@ -213,8 +216,9 @@ void MRStandalonePDE::showAdvanced(bool show)
         triangle->setArrowType(show ? Qt::DownArrow : Qt::RightArrow);
     if (m_advancedView)
         m_advancedView->setVisible(show);
-    if (m_pdeView)
-        m_pdeView->adjustSize();
+    // The view takes the size its parts need when the user sees it.
+    if (QWidget* view = m_pdeView)
+        PDEWhenShown::run(view, QStringLiteral("size"), [view] { view->adjustSize(); });
 }
 
 void MRStandalonePDE::showAdvancedOptions(bool state)
@@ -241,18 +245,16 @@ void MRStandalonePDE::setImage(QLabel* view, const PDEBundle* bundle, const QStr
     if (!view)
         return;
     const QString path = bundle && !name.isEmpty() ? bundle->pathForResource(name, QStringLiteral("png")) : QString();
-    const QPixmap pixmap(path);
-    view->setPixmap(pixmap);
-    view->setProperty("imageName", pixmap.isNull() ? QVariant(QString()) : QVariant(name));
+    const bool shown = PDELazyPicture::set(view, path);
+    view->setProperty("imageName", shown ? QVariant(name) : QVariant(QString()));
 }
 
 void MRStandalonePDE::setImageFromFile(QLabel* view, const QString& path)
 {
     if (!view)
         return;
-    const QPixmap pixmap(path);
-    view->setPixmap(pixmap);
-    view->setProperty("imageName", pixmap.isNull() ? QVariant(QString()) : QVariant(path));
+    const bool shown = PDELazyPicture::set(view, path);
+    view->setProperty("imageName", shown ? QVariant(path) : QVariant(QString()));
 }
 
 void MRStandalonePDE::setSystemFontSize(QWidget* widget, int points)
