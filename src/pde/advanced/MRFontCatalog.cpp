@@ -42,6 +42,13 @@ int styleRank(const QString& style)
 
 QStringList MRFontCatalog::familyNames()
 {
+    // Listed once per process, as Qt's own font database does.
+    static const QStringList families = listFamilies();
+    return families;
+}
+
+QStringList MRFontCatalog::listFamilies()
+{
     QSet<QString> names;
     FcPattern* all = FcPatternCreate();
     forEachFont(all, {FC_FAMILY}, [&](FcPattern* font) {

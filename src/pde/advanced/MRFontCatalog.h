@@ -19,4 +19,7 @@ public:
     // The installed family that stands in for a family name: the name itself
     // when installed, else the family fontconfig substitutes for it.
     static QString resolvedFamily(const QString& family);
+
+private:
+    static QStringList listFamilies();
 };

@@ -7,6 +7,7 @@
 #include "ui_AdvancedOptionPDE.h"
 
 #include <QFile>
+#include <QImageReader>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -90,7 +91,11 @@ void MRWatermarkController::createFontColorList()
     const std::shared_ptr<PDEBundle> bundle = AdvancedOptionPDEObject->pluginBundle();
     for (qsizetype i = 0; i < kColorKeys.size(); ++i) {
         const QString picture = bundle ? bundle->pathForResource(kColorPictures[i], QStringLiteral("png")) : QString();
-        m_ui->fontColorButton->addItem(QIcon(picture), localized(kColorKeys[i]), kColorPictures[i]);
+        // Given its size (from the file's header), the icon reads the swatch only when drawn.
+        QIcon icon;
+        if (!picture.isEmpty())
+            icon.addFile(picture, QImageReader(picture).size());
+        m_ui->fontColorButton->addItem(icon, localized(kColorKeys[i]), kColorPictures[i]);
     }
 }
 
