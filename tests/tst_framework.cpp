@@ -7,12 +7,14 @@
 #include "MRPDE_MACPanelEH.h"
 #include "MRPDE_MACPopUpButtonController.h"
 #include "PDEBundle.h"
+#include "PDELazyPicture.h"
 #include "TestSupport.h"
 
 #include <QComboBox>
 #include <QLabel>
 #include <QTabWidget>
 #include <QTest>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -151,6 +153,25 @@ private slots:
         // A change made by the dialog reaches the feature through the panel.
         panel.PPDOptionKeyValueDidChange(u"Sealing"_s, u"Strong"_s);
         QCOMPARE(m_model->featureWithKey(u"Sealing"_s)->currentValue()->keyword(), u"Strong"_s);
+    }
+    // A picture is decoded when its label is first shown; before that the
+    // label asks for the same room, and a newer picture replaces a waiting one.
+    void lazyPicture()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* label = new QLabel;
+        layout->addWidget(label);
+        const QString first = PDE_SOURCE_BUNDLE_DIR "/images/itdrvM1.png", second = PDE_SOURCE_BUNDLE_DIR "/images/poster_none.png";
+        QVERIFY(!PDELazyPicture::set(label, u"/nonexistent.png"_s));
+        QVERIFY(PDELazyPicture::set(label, first));
+        QVERIFY(PDELazyPicture::set(label, second));
+        QVERIFY(label->pixmap().isNull());
+        const QSize before = window.sizeHint();
+        window.show();
+        QCOMPARE(label->pixmap().size(), QImage(second).size());
+        QCOMPARE(window.sizeHint(), before);
+        QCOMPARE(label->minimumSize(), QSize(0, 0));
     }
 };
 

@@ -9,7 +9,6 @@
 #include "PDELog.h"
 #include "PDEPluginCallback.h"
 #include "PDEVersionChecks.h"
-#include "PDEWhenShown.h"
 #include "PMPageFormat.h"
 #include "PMPrintSettings.h"
 
@@ -216,9 +215,8 @@ void MRStandalonePDE::showAdvanced(bool show)
         triangle->setArrowType(show ? Qt::DownArrow : Qt::RightArrow);
     if (m_advancedView)
         m_advancedView->setVisible(show);
-    // The view takes the size its parts need when the user sees it.
-    if (QWidget* view = m_pdeView)
-        PDEWhenShown::run(view, QStringLiteral("size"), [view] { view->adjustSize(); });
+    if (m_pdeView)
+        m_pdeView->adjustSize();
 }
 
 void MRStandalonePDE::showAdvancedOptions(bool state)
