@@ -8,7 +8,7 @@ class MRBookletGutterTextField : public MRValidatingTextField {
     Q_OBJECT
 public:
     explicit MRBookletGutterTextField(QWidget* parent = nullptr);
-    bool metric() const { return m_metric; }
+    bool isMetric() const { return m_metric; }
     // Switches the unit system (and the formatter with it).
     void setMetric(bool metric);
     static QString limitedGutter(const QString& text, bool metric);

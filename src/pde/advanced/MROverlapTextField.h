@@ -8,7 +8,7 @@ class MROverlapTextField : public MRValidatingTextField {
     Q_OBJECT
 public:
     explicit MROverlapTextField(QWidget* parent = nullptr);
-    bool metric() const { return m_metric; }
+    bool isMetric() const { return m_metric; }
     void setMetric(bool metric);
     static QString limitedOverlap(const QString& text, bool metric);
 
