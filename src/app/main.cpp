@@ -1,6 +1,7 @@
 #include "CloseAfterFirstPaint.h"
 #include "CommandLine.h"
 #include "HeadlessPrint.h"
+#include "MRFontCatalog.h"
 #include "PDESecrets.h"
 #include "PanelSession.h"
 #include "PrintDialogWindow.h"
@@ -124,10 +125,11 @@ int main(int argc, char** argv)
     const bool headless = cl.isHeadless() || !(canShowWindow || qEnvironmentVariableIsSet("PRINT_PANELS_SCREENSHOTS"));
     if (headless) {
         qInstallMessageHandler(quietQtMessages);
-        // Off screen rather than minimal: the watermark font list needs
-        // fontconfig, and with the offscreen platform Qt's font database owns
-        // fontconfig's set-up and frees it on exit.
-        qputenv("QT_QPA_PLATFORM", "offscreen");
+        // Nothing is drawn: the minimal platform spares Qt's font database
+        // and text layout. The watermark font list reads fontconfig itself,
+        // the only user of it left, and lets it go at exit.
+        qputenv("QT_QPA_PLATFORM", "minimal");
+        MRFontCatalog::releaseFontconfigAtExit();
     } else if (!hasDisplay && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
     }

@@ -4,6 +4,7 @@
 #include <QSet>
 #include <fontconfig/fontconfig.h>
 #include <algorithm>
+#include <cstdlib>
 
 namespace {
 QString stringOf(FcPattern* pattern, const char* object)
@@ -87,6 +88,11 @@ QList<MRFontCatalog::Member> MRFontCatalog::members(const QString& family)
         return ra != rb ? ra < rb : a.style < b.style;
     });
     return list;
+}
+
+void MRFontCatalog::releaseFontconfigAtExit()
+{
+    std::atexit([] { FcFini(); });
 }
 
 QString MRFontCatalog::resolvedFamily(const QString& family)

@@ -19,6 +19,9 @@ public:
     // The installed family that stands in for a family name: the name itself
     // when installed, else the family fontconfig substitutes for it.
     static QString resolvedFamily(const QString& family);
+    // Frees fontconfig's set-up when the process ends. Only for a process in
+    // which nothing else uses fontconfig (Qt's minimal platform).
+    static void releaseFontconfigAtExit();
 
 private:
     static QStringList listFamilies();
