@@ -43,7 +43,7 @@ void MRPDEAttribute::saveValues()
     PMPrintSettings* settings = m_modelDelegate->printSettings();
     if (PMPrintSettingsSetValue(settings, m_keyword, m_attributeValue, false) != kPMNoError)
         _PDELog(this, QStringLiteral("PDE_MACFeature: saveValues failed for keyword(%@) currentValue(%@) "), m_keyword,
-                PDESecrets::loggable(m_keyword, m_attributeValue));
+                PDESecrets::forLog(m_keyword, m_attributeValue));
     if (MRPDE_MACFirstEventHandler::debug()) {
         QString readBack;
         if (PMPrintSettingsGetValue(settings, m_keyword, &readBack) == kPMNoError)

@@ -95,14 +95,14 @@ bool MRPDE_MACChangeHandlerModel::willChangePPDOptionKeyValue(const QString& opt
         || !m_pdeCallBack->respondsToOperation(Op::WillChangePPDOptionKeyValue))
         return false;
     _PDELog(this, QStringLiteral("ChangeHandlerModel(Model): willChangePPDOptionKeyValue(%@->%@)"), option,
-            PDESecrets::loggable(option, choice));
+            PDESecrets::forLog(option, choice));
     return m_pdeCallBack->willChangePPDOptionKeyValue(option, choice);
 }
 
 void MRPDE_MACChangeHandlerModel::PPDOptionKeyValueDidChange(const QString& option, const QString& choice)
 {
     _PDELog(this, QStringLiteral("ChangeHandlerModel(model): PPDOptionKeyValueDidChange(%@->%@)"), option,
-            PDESecrets::loggable(option, choice));
+            PDESecrets::forLog(option, choice));
     for (const PDEFeaturePtr& f : std::as_const(m_features)) {
         if (f->keyword() == option) {
             f->setCurrentValueWithChoiceWithKeyword(choice);
@@ -110,7 +110,7 @@ void MRPDE_MACChangeHandlerModel::PPDOptionKeyValueDidChange(const QString& opti
         }
     }
     _PDELog(this, QStringLiteral("ChangeHandlerModel(model): PPDOptionKeyValueDidChange: ERROR: option[%@] choice[%@]"), option,
-            PDESecrets::loggable(option, choice));
+            PDESecrets::forLog(option, choice));
 }
 
 bool MRPDE_MACChangeHandlerModel::isInstallableOptionConstrainedWithChoice(const QString& choice, const QString& option) const

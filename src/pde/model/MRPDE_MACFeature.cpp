@@ -70,7 +70,7 @@ void MRPDE_MACFeature::setCurrentValue(const PDEChoicePtr& value)
         return;
     if (!m_modelDelegate || !m_modelDelegate->willChangePPDOptionKeyValue(m_keyword, value->keyword()))
         return;
-    _PDELog(this, QStringLiteral("PDE_MacFeature: {%@}SetCurrentValue->%@"), m_keyword, PDESecrets::loggable(m_keyword, value->keyword()));
+    _PDELog(this, QStringLiteral("PDE_MacFeature: {%@}SetCurrentValue->%@"), m_keyword, PDESecrets::forLog(m_keyword, value->keyword()));
     m_currentValue = value;
     _PDELog(this, kSeparatorLine);
     emit currentValueChanged(this);
@@ -122,7 +122,7 @@ void MRPDE_MACFeature::saveValues()
     const QString value = m_currentValue->keyword();
     if (PMPrintSettingsSetValue(settings, m_keyword, value, false) != kPMNoError)
         _PDELog(this, QStringLiteral("PDE_MACFeature: saveValues failed for keyword(%@) currentValue(%@) "), m_keyword,
-                PDESecrets::loggable(m_keyword, value));
+                PDESecrets::forLog(m_keyword, value));
     if (MRPDE_MACFirstEventHandler::debug()) {
         QString readBack;
         if (PMPrintSettingsGetValue(settings, m_keyword, &readBack) == kPMNoError)
