@@ -66,7 +66,7 @@ void CupsDestList::merge()
         for (const LpoptionsFile::Entry& entry : file.entries()) {
             const QByteArray name = entry.queue.toUtf8(), instance = entry.instance.toUtf8();
             const char* inst = instance.isEmpty() ? nullptr : instance.constData();
-            fileCount = cupsAddDest(name.constData(), nullptr, fileCount, &fromFiles);
+            // (An instance's queue is added with it, without options.)
             fileCount = cupsAddDest(name.constData(), inst, fileCount, &fromFiles);
             cups_dest_t* dest = cupsGetDest(name.constData(), inst, fileCount, fromFiles);
             if (!dest)
