@@ -67,8 +67,9 @@ std::unique_ptr<PanelSession> openSession(const QString& printer)
     return session;
 }
 
-// The bar above the dialog made and filled as the window does: every queue
-// of the server in the chooser, the presets of the queue open.
+// The bar above the dialog made and filled as the window does: the server's
+// destinations asked for once, every queue in the chooser, the presets of
+// the queue open.
 void chooserFill(benchmark::State& state)
 {
     auto session = openSession(QStringLiteral("q"));
@@ -77,7 +78,7 @@ void chooserFill(benchmark::State& state)
     int printers = 0, presets = 0;
     for (auto _ : state) {
         PrinterPresetBar bar;
-        bar.showSession(session.get(), session->options());
+        bar.showSession(session.get(), session->options(), std::make_shared<const CupsDestList>(server->address()));
         printers = bar.findChild<QComboBox*>(QStringLiteral("printerCombo"))->count();
         presets = bar.findChild<QComboBox*>(QStringLiteral("presetCombo"))->count();
     }
