@@ -29,10 +29,11 @@ int HeadlessPrint::run(const CommandLine& cl)
         // The destinations asked for once: the session opens the default from them.
         options.destinations = std::make_shared<const CupsDestList>(cl.session.server);
         printer = options.destinations->defaultDestination();
-        const QString unreachable = options.destinations->printers().answered() ? QString() : PrintDialogHost::unreachableServer(cl.session.server);
-        if (printer.isEmpty())
+        if (printer.isEmpty()) {
+            const QString unreachable = options.destinations->printers().answered() ? QString() : PrintDialogHost::unreachableServer(cl.session.server);
             return failWith(ExitBadInput, unreachable.isEmpty() ? QStringLiteral("there is no printer to print to: CUPS has no queue (use --printer QUEUE)")
                                                                 : unreachable);
+        }
     }
     options.printer = printer;
     PrintJob job(printer, cl.session.server);

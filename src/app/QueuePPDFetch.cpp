@@ -1,8 +1,11 @@
 #include "QueuePPDFetch.h"
 
 #include <QFile>
+#include <QUrl>
 #include <cups/cups.h>
 #include <cups/ppd.h>
+#include <cerrno>
+#include <cstring>
 #include <unistd.h>
 
 namespace {
@@ -42,12 +45,15 @@ QString QueuePPDFetch::fetch(const CupsPrinterList::Printer& printer, const QStr
     http_status_t status = HTTP_STATUS_ERROR;
     if (onThisServer(parts.host) && !member.isEmpty()) {
         const int fd = cupsTempFd(path, sizeof path);
-        if (fd >= 0) {
-            status = cupsGetFd(CUPS_HTTP_DEFAULT, ("/printers/" + member + ".ppd").constData(), fd);
-            ::close(fd);
-            if (status != HTTP_STATUS_OK)
-                ::unlink(path);
+        if (fd < 0) {
+            *error = QStringLiteral("the PPD of printer %1 cannot be kept: %2").arg(queue, QString::fromLocal8Bit(strerror(errno)));
+            return QString();
         }
+        const QByteArray resource = "/printers/" + QUrl::toPercentEncoding(QString::fromUtf8(member)) + ".ppd";
+        status = cupsGetFd(CUPS_HTTP_DEFAULT, resource.constData(), fd);
+        ::close(fd);
+        if (status != HTTP_STATUS_OK)
+            ::unlink(path);
     } else {
         time_t modtime = 0;
         status = cupsGetPPD3(CUPS_HTTP_DEFAULT, printer.name.constData(), &modtime, path, sizeof path);

@@ -137,6 +137,10 @@ private slots:
             const QStringList requests = m_server.accessLog().mid(logged);
             QCOMPARE(requests.size(), 2);
             QCOMPARE(requests.filter(QStringLiteral("CUPS-Get-Printers")).size() + requests.filter(QStringLiteral("GET /printers/%1.ppd").arg(m_queue)).size(), 2);
+            // A printer opened again in the window fetches its PPD, nothing more.
+            QVERIFY2(window.openSession({{}, m_queue, m_server.address(), {}, optionStrings}, &error), qPrintable(error));
+            const QStringList again = m_server.accessLog().mid(logged + 2);
+            QVERIFY2(again.size() == 1 && again.first().contains(QStringLiteral("GET /printers/%1.ppd").arg(m_queue)), qPrintable(again.join('\n')));
             // A message box would wait for a click that never comes: it is closed, its text kept.
             QString boxText;
             QTimer watchdog;
