@@ -1,6 +1,7 @@
 // Presets as CUPS instances in the user's lpoptions, against a private cupsd:
 // round trips read back by libcups and by a host, secrets never on disk, a
 // file for the user alone, and bad input that changes nothing.
+#include "CupsDestList.h"
 #include "PresetStore.h"
 #include "PrivateCupsServer.h"
 #include "TestSupport.h"
@@ -56,7 +57,10 @@ private slots:
         QString why;
         if (!PrivateCupsServer::canRun(&why))
             QSKIP(qPrintable(QStringLiteral("presets need a private cupsd, skipped: ") + why));
-        QVERIFY2(m_server.start(&why) && m_server.addQueue("q", TestSupport::samplePPD(), &why), qPrintable(why));
+        // A second queue, the server's default, is in a class.
+        QVERIFY2(m_server.start(&why) && m_server.addQueue("q", TestSupport::samplePPD(), &why) && m_server.addQueue("r", TestSupport::samplePPD(), &why)
+                     && m_server.runClient("lpadmin", {"-d", "r"}, &why) && m_server.runClient("lpadmin", {"-p", "r", "-c", "cls"}, &why),
+                 qPrintable(why));
         QVERIFY(PresetStore::lpoptionsPath().startsWith(m_server.clientHome() + QLatin1Char('/')));
         // The queue's saved options, as a user sets them with lpoptions, a
         // password among them (which does not belong in the file either).
@@ -209,6 +213,67 @@ private slots:
         error.clear();
         QVERIFY(!presets.remove(name, &error) && !error.isEmpty());
         QCOMPARE(fileBytes(PresetStore::lpoptionsPath()), before);
+    }
+
+    // The destinations made of one server answer are libcups' own
+    // (cupsGetDests2): names, instances, default marks and options, and the
+    // default destination is the one cupsGetNamedDest finds.
+    void destinationsAsLibcups_data()
+    {
+        QTest::addColumn<QByteArray>("systemFile");
+        QTest::addColumn<QByteArray>("userFile");
+        QTest::addColumn<QByteArray>("environment");  // NAME=VALUE, or empty
+        QTest::newRow("server default") << QByteArray() << QByteArray() << QByteArray();
+        QTest::newRow("instances take their queue's options as the lines come")
+            << QByteArray("Dest q sys=1\nDest q/sys a=1 # a comment\n")
+            << QByteArray("Dest q/draft Duplex=None note=\"two words\"\nDest Q copies=3 sys=2\nDest q/draft MediaType=Thick\nDest gone x=1\n")
+            << QByteArray();
+        QTest::newRow("user Default over the system's and the server's") << QByteArray("Default r/x\n") << QByteArray("Default q/draft\n") << QByteArray();
+        QTest::newRow("a queue the files name loses the server's mark") << QByteArray() << QByteArray("Dest r a=1\n") << QByteArray();
+        QTest::newRow("Default of a queue not on the server") << QByteArray() << QByteArray("Default gone\n") << QByteArray();
+        QTest::newRow("LPDEST over Default") << QByteArray() << QByteArray("Default q/draft\n") << QByteArray("LPDEST=r");
+        QTest::newRow("LPDEST of an instance") << QByteArray() << QByteArray("Dest q/draft a=1\n") << QByteArray("LPDEST=q/draft");
+        QTest::newRow("PRINTER=lp is no default") << QByteArray() << QByteArray("Default q/draft\n") << QByteArray("PRINTER=lp");
+        QTest::newRow("PRINTER") << QByteArray() << QByteArray("Dest q/draft\n") << QByteArray("PRINTER=cls");
+    }
+
+    void destinationsAsLibcups()
+    {
+        const QByteArray userFile = fileBytes(PresetStore::lpoptionsPath());
+        for (const auto& [path, bytes] : {std::pair{m_server.clientHome() + "/lpoptions", cell<QByteArray>("systemFile")},
+                                          std::pair{PresetStore::lpoptionsPath(), cell<QByteArray>("userFile")}}) {
+            QFile f(path);
+            QVERIFY(f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size());
+        }
+        const QByteArrayList environment = cell<QByteArray>("environment").split('=');
+        if (environment.size() == 2)
+            qputenv(environment[0].constData(), environment[1]);
+        auto lines = [](const cups_dest_t* dests, int count) {
+            QStringList out;
+            for (int i = 0; i < count; ++i) {
+                QStringList options;
+                for (int o = 0; o < dests[i].num_options; ++o)
+                    options << QStringLiteral("%1=%2").arg(dests[i].options[o].name, dests[i].options[o].value);
+                options.sort();
+                out << QStringLiteral("%1/%2 default=%3 %4").arg(dests[i].name, dests[i].instance).arg(dests[i].is_default).arg(options.join(' '));
+            }
+            return out;
+        };
+        cups_dest_t* theirs = nullptr;
+        const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &theirs);
+        cups_dest_t* named = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr);
+        const QString theirDefault = named ? QString(named->name) + (named->instance ? QStringLiteral("/") + named->instance : QString()) : "cls";
+        const CupsDestList ours(m_server.address());
+        QStringList mine;
+        for (int i = 0; i < ours.count(); ++i)
+            mine += lines(&ours.at(i), 1);
+        qunsetenv("LPDEST"), qunsetenv("PRINTER");
+        QFile user(PresetStore::lpoptionsPath());
+        QVERIFY(user.open(QIODevice::WriteOnly) && user.write(userFile) == userFile.size() && count >= 3);
+        QCOMPARE(mine, lines(theirs, count));
+        QCOMPARE(ours.defaultDestination(), theirDefault);
+        cupsFreeDests(count, theirs);
+        cupsFreeDests(named ? 1 : 0, named);
     }
 };
 

@@ -35,25 +35,11 @@ static QStringList installedBanners()
     return names;
 }
 
-QStringList CupsDestinations::coverPages(const QString& queue)
+QStringList CupsDestinations::coverPages(const CupsDestList& dests, const QString& queue)
 {
     QStringList names;
-    if (!queue.isEmpty()) {
-        // One Get-Printer-Attributes for the one attribute shown, not every
-        // attribute of the printer (cupsCopyDestInfo).
-        char uri[HTTP_MAX_URI];
-        httpAssembleURIf(HTTP_URI_CODING_ALL, uri, sizeof uri, "ipp", nullptr, "localhost", ippPort(), "/printers/%s",
-                         queue.section(QLatin1Char('/'), 0, 0).toUtf8().constData());
-        ipp_t* request = ippNewRequest(IPP_OP_GET_PRINTER_ATTRIBUTES);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "printer-uri", nullptr, uri);
-        ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_KEYWORD, "requested-attributes", nullptr, "job-sheets-supported");
-        ipp_t* response = cupsDoRequest(CUPS_HTTP_DEFAULT, request, "/");
-        if (ipp_attribute_t* a = ippFindAttribute(response, "job-sheets-supported", IPP_TAG_ZERO)) {
-            for (int i = 0; i < ippGetCount(a); ++i)
-                names.append(QString::fromUtf8(ippGetString(a, i, nullptr)));
-        }
-        ippDelete(response);
-    }
+    if (const CupsPrinterList::Printer* printer = queue.isEmpty() ? nullptr : dests.printers().find(queue.section(QLatin1Char('/'), 0, 0).toUtf8()))
+        names = printer->jobSheets;
     if (names.isEmpty())
         names = installedBanners();
     names.removeAll(QStringLiteral("none"));

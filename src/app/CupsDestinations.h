@@ -23,8 +23,8 @@ public:
     // says of its state. Instances (presets) are not queues of their own and
     // are left out.
     static QList<Queue> queues(const CupsDestList& dests);
-    // The cover pages of a queue (its job-sheets-supported, the only
-    // attribute asked for), or, for a PPD file without a queue, the banners
-    // installed with CUPS. "none" first.
-    static QStringList coverPages(const QString& queue);
+    // The cover pages of a queue of the list (its job-sheets-supported),
+    // or, for a PPD file without a queue, the banners installed with CUPS.
+    // "none" first.
+    static QStringList coverPages(const CupsDestList& dests, const QString& queue);
 };

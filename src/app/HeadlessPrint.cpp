@@ -1,6 +1,7 @@
 #include "HeadlessPrint.h"
 
 #include "CommandLine.h"
+#include "CupsDestList.h"
 #include "PanelSession.h"
 #include "PrintJob.h"
 
@@ -22,15 +23,18 @@ int failWith(int status, const QString& error)
 int HeadlessPrint::run(const CommandLine& cl)
 {
     // Without --printer, the job goes to the default destination, as lp's does.
+    PanelSession::Options options = cl.session;
     QString printer = cl.session.printer;
     if (printer.isEmpty()) {
-        bool reachable = true;
-        printer = PrintDialogHost::defaultDestination(cl.session.server, &reachable);
-        if (printer.isEmpty())
-            return failWith(ExitBadInput, reachable ? QStringLiteral("there is no printer to print to: CUPS has no queue (use --printer QUEUE)")
-                                                    : PrintDialogHost::unreachableServer(cl.session.server));
+        // The destinations asked for once: the session opens the default from them.
+        options.destinations = std::make_shared<const CupsDestList>(cl.session.server);
+        printer = options.destinations->defaultDestination();
+        if (printer.isEmpty()) {
+            const QString unreachable = options.destinations->printers().answered() ? QString() : PrintDialogHost::unreachableServer(cl.session.server);
+            return failWith(ExitBadInput, unreachable.isEmpty() ? QStringLiteral("there is no printer to print to: CUPS has no queue (use --printer QUEUE)")
+                                                                : unreachable);
+        }
     }
-    PanelSession::Options options = cl.session;
     options.printer = printer;
     PrintJob job(printer, cl.session.server);
     job.setFiles(cl.files);

@@ -9,6 +9,8 @@
 #include <cups/cups.h>
 #include <cerrno>
 #include <cstring>
+#include <pwd.h>
+#include <unistd.h>
 
 namespace {
 // libcups reads lpoptions lines into a buffer of this size: a longer line
@@ -66,6 +68,42 @@ bool sameName(const QString& a, const QString& b)
 {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
+}
+
+QString LpoptionsFile::systemPath()
+{
+    const QString root = qEnvironmentVariable("CUPS_SERVERROOT");
+    return (root.isEmpty() ? QStringLiteral("/etc/cups") : root) + QStringLiteral("/lpoptions");
+}
+
+QString LpoptionsFile::userPath()
+{
+    // As libcups finds the home folder: $HOME, else the password database.
+    QString home = qEnvironmentVariable("HOME");
+    if (home.isEmpty()) {
+        if (const struct passwd* pw = ::getpwuid(::getuid()))
+            home = QFile::decodeName(pw->pw_dir);
+    }
+    return home.isEmpty() ? QString() : home + QStringLiteral("/.cups/lpoptions");
+}
+
+QList<LpoptionsFile::Entry> LpoptionsFile::entries() const
+{
+    QList<Entry> out;
+    for (const QByteArray& line : m_lines) {
+        const Parsed p = parse(line);
+        if (p.keyword.isEmpty())
+            continue;
+        // libcups reads the line up to its first '#', or takes the backslash
+        // off when that '#' is escaped.
+        QByteArray options = p.options;
+        if (const qsizetype hash = options.indexOf('#'); hash > 0 && options[hash - 1] == '\\')
+            options.remove(hash - 1, 1);
+        else if (hash >= 0)
+            options.truncate(hash);
+        out.append({qstricmp(p.keyword.constData(), "Default") == 0, p.queue, p.instance, options.trimmed()});
+    }
+    return out;
 }
 
 bool LpoptionsFile::read(QString* error)

@@ -14,10 +14,25 @@ class LpoptionsFile {
 public:
     using OptionList = PrintDialogHost::OptionList;
 
+    // A destination line as written: Default or Dest, the destination, the
+    // rest of the line (its options, a trailing comment taken off).
+    struct Entry {
+        bool isDefault = false;
+        QString queue, instance;
+        QByteArray options;
+    };
+
     explicit LpoptionsFile(const QString& path) : m_path(path) {}
+
+    // The file every user shares (CUPS_SERVERROOT/lpoptions) and the user's
+    // own (~/.cups/lpoptions, empty without a home folder), as libcups finds them.
+    static QString systemPath();
+    static QString userPath();
 
     // Reads the file; a missing file is an empty one.
     bool read(QString* error);
+    // The destination lines, in the file's order.
+    QList<Entry> entries() const;
     // Whether the destination has a line.
     bool contains(const QString& queue, const QString& instance) const;
     // Sets the destination's options, in place of its line (keeping a Default

@@ -1,16 +1,45 @@
 #include "PanelSession.h"
 
+#include "CupsDestList.h"
 #include "MRPDE_MACFirstEventHandler.h"
 #include "PDEAlerts.h"
 #include "PDEBundle.h"
 #include "PDEPanel.h"
 #include "PanelDescriber.h"
+#include "QueuePPDFetch.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QJsonArray>
 #include <algorithm>
+#include <cups/cups.h>
 #include <cups/ppd.h>
+
+namespace {
+// The host of a queue ("name" or "name/instance"): its saved options from the
+// destinations (fetched for that queue alone when they lack it), its PPD with one GET.
+std::unique_ptr<PrintDialogHost> openQueue(const QString& queue, const QString& server, std::shared_ptr<const CupsDestList> dests,
+                                           QString* error, QStringList* warnings)
+{
+    const QByteArray name = queue.section(QLatin1Char('/'), 0, 0).toUtf8();
+    if (!dests || !dests->printers().find(name))
+        dests = std::make_shared<const CupsDestList>(CupsPrinterList::one(server, queue));
+    const CupsPrinterList::Printer* printer = dests->printers().find(name);
+    if (!printer) {
+        const QString unreachable = dests->printers().answered() ? QString() : PrintDialogHost::unreachableServer(server);
+        *error = unreachable.isEmpty() ? QStringLiteral("printer %1: %2").arg(queue, dests->printers().errorString()) : unreachable;
+        return nullptr;
+    }
+    // An instance the files do not name has the queue's own options.
+    const cups_dest_t* dest = dests->find(name, queue.section(QLatin1Char('/'), 1).toUtf8());
+    if (!dest)
+        dest = dests->find(name, QByteArray());
+    const QString ppd = QueuePPDFetch::fetch(*printer, queue, error);
+    if (ppd.isEmpty())
+        return nullptr;
+    return PrintDialogHost::openQueue(queue, server, ppd, dest->num_options, dest->options, error, warnings);
+}
+}
 
 QString PanelSession::samplePrinterPPD(QTemporaryDir& dir, const QString& name)
 {
@@ -38,8 +67,11 @@ std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString
     s->m_options = options;
     // Without a printer or a PPD file: the user's default destination, as
     // every dialog on the desktop opens; the sample printer when there is no queue.
-    if (options.printer.isEmpty() && options.ppdPath.isEmpty())
-        s->m_options.printer = PrintDialogHost::defaultDestination(options.server);
+    if (options.printer.isEmpty() && options.ppdPath.isEmpty()) {
+        if (!s->m_options.destinations)
+            s->m_options.destinations = std::make_shared<const CupsDestList>(options.server);
+        s->m_options.printer = s->m_options.destinations->defaultDestination();
+    }
     // Resolution reports are queued; collected here until the session is open.
     auto collect = [session = s.get()](const PrintDialogHost::OptionList& changes) {
         for (const auto& change : changes) {
@@ -52,7 +84,7 @@ std::unique_ptr<PanelSession> PanelSession::open(const Options& options, QString
         }
     };
     if (!s->m_options.printer.isEmpty()) {
-        s->m_host = PrintDialogHost::openPrinter(s->m_options.printer, options.server, error, &s->m_openingWarnings);
+        s->m_host = openQueue(s->m_options.printer, options.server, s->m_options.destinations, error, &s->m_openingWarnings);
     } else {
         QString ppd = options.ppdPath;
         if (ppd.isEmpty())

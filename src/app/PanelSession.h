@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+class CupsDestList;
 class MRPDE_MACFirstEventHandler;
 class PDEBundle;
 class PDEPanel;
@@ -28,6 +29,10 @@ public:
         // applied after those where this PPD has the option and takes the
         // choice; the rest are told in notCarried().
         QStringList carriedOptions = {};
+        // The destinations already fetched from the server, the queue and
+        // its saved options taken from them; without them, the session asks
+        // the server once (the queue named, or every queue to find the default).
+        std::shared_ptr<const CupsDestList> destinations = {};
     };
 
     static std::unique_ptr<PanelSession> open(const Options& options, QString* error);

@@ -7,8 +7,6 @@
 #include <QFile>
 #include <QMap>
 #include <cups/cups.h>
-#include <pwd.h>
-#include <unistd.h>
 
 namespace {
 // Whether the server knows the queue; the error says which server was asked.
@@ -35,12 +33,6 @@ PrintDialogHost::OptionList jobOptionsOf(const cups_dest_t* dest)
         out.append({it.key(), it.value()});
     return out;
 }
-
-QString systemLpoptionsPath()
-{
-    const QString root = qEnvironmentVariable("CUPS_SERVERROOT");
-    return (root.isEmpty() ? QStringLiteral("/etc/cups") : root) + QStringLiteral("/lpoptions");
-}
 }
 
 PresetStore::PresetStore(const QString& queue, const QString& server)
@@ -50,15 +42,8 @@ PresetStore::PresetStore(const QString& queue, const QString& server)
 
 QString PresetStore::lpoptionsPath()
 {
-    // As libcups finds the home folder: $HOME, else the password database.
-    QString home = qEnvironmentVariable("HOME");
-    if (home.isEmpty()) {
-        if (const struct passwd* pw = ::getpwuid(::getuid()))
-            home = QFile::decodeName(pw->pw_dir);
-    }
-    if (home.isEmpty())
-        return systemLpoptionsPath();
-    return home + QStringLiteral("/.cups/lpoptions");
+    const QString user = LpoptionsFile::userPath();
+    return user.isEmpty() ? LpoptionsFile::systemPath() : user;
 }
 
 bool PresetStore::isValidName(const QString& name, QString* error)

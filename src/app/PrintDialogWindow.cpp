@@ -1,5 +1,6 @@
 #include "PrintDialogWindow.h"
 
+#include "CupsDestList.h"
 #include "CupsDestinations.h"
 #include "JobControls.h"
 #include "LpCommand.h"
@@ -123,16 +124,26 @@ void PrintDialogWindow::installTranslations(const PDEBundle& bundle)
 
 bool PrintDialogWindow::openSession(const PanelSession::Options& options, QString* error)
 {
+    // The server is asked for its destinations once per window: every printer
+    // opened, the chooser, the presets and the cover pages come from that
+    // answer, with the lpoptions files read again for each opening.
+    PanelSession::Options withDestinations = options;
+    if (!withDestinations.destinations)
+        withDestinations.destinations = m_destinations && options.server == m_options.server
+                                            ? std::make_shared<const CupsDestList>(m_destinations->printers())
+                                            : std::make_shared<const CupsDestList>(options.server);
     // Without a printer, the session picks one (the user's default queue).
-    std::unique_ptr<PanelSession> session = PanelSession::open(options, error);
+    std::unique_ptr<PanelSession> session = PanelSession::open(withDestinations, error);
     if (!session)
         return false;
+    m_destinations = withDestinations.destinations;
     installTranslations(session->bundle());
 
     ui->panelStack->clear();
     m_session = std::move(session);
     // What was opened, as the chooser shows it: the queue (with its preset) or the PPD file.
     m_options = options;
+    m_options.destinations.reset();
     const PMPrinter* printer = m_session->host().pmPrinter();
     m_options.printer = isQueue() ? printer->name() : QString();
     m_options.ppdPath = isQueue() ? QString() : m_session->host().ppdPath();
@@ -140,8 +151,8 @@ bool PrintDialogWindow::openSession(const PanelSession::Options& options, QStrin
     PrintDialogHost* host = &m_session->host();
     connect(host, &PrintDialogHost::panelViewResized, ui->panelStack, &PanelStack::panelViewResized);
     connect(host, &PrintDialogHost::optionsChangedByResolution, this, &PrintDialogWindow::optionsChangedByResolution);
-    ui->jobControls->setHost(host, CupsDestinations::coverPages(isQueue() ? m_options.printer : QString()));
-    ui->printerPresetBar->showSession(m_session.get(), m_options);
+    ui->jobControls->setHost(host, CupsDestinations::coverPages(*m_destinations, isQueue() ? m_options.printer : QString()));
+    ui->printerPresetBar->showSession(m_session.get(), m_options, m_destinations);
     ui->panelStack->setPanels(m_session->panels(), host->ppd(), 0);
     updateMainButton();
     // What the opening changed or could not use (saved options, preset, -o).

@@ -90,6 +90,7 @@ private:
     std::unique_ptr<Ui::PrintDialogWindow> ui;
     std::unique_ptr<PanelSession> m_session;
     PanelSession::Options m_options;  // what the session opened
+    std::shared_ptr<const CupsDestList> m_destinations;  // the server's answer the window opened with
     QStringList m_documents;
     int m_submittedJob = 0;
     PDEPanel* m_askingPanel = nullptr;  // the panel whose print checks run

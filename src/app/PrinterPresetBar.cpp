@@ -53,19 +53,20 @@ PrinterPresetBar::PrinterPresetBar(QWidget* parent)
 
 PrinterPresetBar::~PrinterPresetBar() = default;
 
-void PrinterPresetBar::showSession(PanelSession* session, const PanelSession::Options& opened)
+void PrinterPresetBar::showSession(PanelSession* session, const PanelSession::Options& opened, std::shared_ptr<const CupsDestList> dests)
 {
     m_session = session;
     m_opened = opened;
-    refresh();
+    m_dests = std::move(dests);
+    fillPrinters(*m_dests);
+    fillPresets(*m_dests);
 }
 
 void PrinterPresetBar::refresh()
 {
-    // One destinations request for both lists.
-    const CupsDestList dests(m_opened.server);
-    fillPrinters(dests);
-    fillPresets(dests);
+    m_dests = m_dests ? std::make_shared<const CupsDestList>(m_dests->printers()) : std::make_shared<const CupsDestList>(m_opened.server);
+    fillPrinters(*m_dests);
+    fillPresets(*m_dests);
 }
 
 bool PrinterPresetBar::isQueue() const
@@ -185,7 +186,7 @@ void PrinterPresetBar::printerChosen(int index)
         options.ppdPath = QFileDialog::getOpenFileName(this, tr("Choose a PPD File"), QDir::homePath(),
                                                        tr("PPD files (*.ppd *.PPD);;All files (*)"));
         if (options.ppdPath.isEmpty()) {
-            fillPrinters(CupsDestList(m_opened.server));
+            fillPrinters(*m_dests);
             return;
         }
         break;
@@ -308,14 +309,14 @@ void PrinterPresetBar::makeDefaultPrinter()
         QMessageBox::warning(this, window()->windowTitle(), tr("The default printer cannot be set: %1").arg(error));
         return;
     }
-    fillPrinters(CupsDestList(m_opened.server));
+    refresh();
     emit notice(tr("%1 is now your default printer.").arg(m_opened.printer));
 }
 
 void PrinterPresetBar::usePreset(const QString& name)
 {
     m_opened.printer = name.isEmpty() ? queueName() : queueName() + QLatin1Char('/') + name;
-    fillPresets(CupsDestList(m_opened.server));
+    refresh();
     emit presetRenamed(m_opened.printer);
 }
 

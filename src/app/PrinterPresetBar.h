@@ -29,9 +29,11 @@ public:
 
     void setSettingsSource(SettingsSource source) { m_settings = std::move(source); }
     // Shows the printer of the session opened: opened.printer is the queue
-    // ("QUEUE[/PRESET]") for a queue, opened.ppdPath the file otherwise.
-    void showSession(PanelSession* session, const PanelSession::Options& opened);
-    // Fills the lists again (after a failed open, a language change).
+    // ("QUEUE[/PRESET]") for a queue, opened.ppdPath the file otherwise;
+    // the lists are filled from the destinations the session was opened with.
+    void showSession(PanelSession* session, const PanelSession::Options& opened, std::shared_ptr<const CupsDestList> dests);
+    // Fills the lists again (after a failed open, a language change), the
+    // lpoptions files read again, the server not asked again.
     void refresh();
 
 signals:
@@ -73,6 +75,7 @@ private:
     std::unique_ptr<Ui::PrinterPresetBar> ui;
     PanelSession* m_session = nullptr;
     PanelSession::Options m_opened;
+    std::shared_ptr<const CupsDestList> m_dests;
     QTemporaryDir m_sampleDir;  // sample printers copied out of the program
     int m_sampleIndex = -1;     // the chooser's entry of the sample printer in use
     SettingsSource m_settings;

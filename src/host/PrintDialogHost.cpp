@@ -133,50 +133,31 @@ std::unique_ptr<PrintDialogHost> PrintDialogHost::openPrinter(const QString& que
     char ppdPath[1024] = "";
     time_t modtime = 0;
     const http_status_t status = cupsGetPPD3(CUPS_HTTP_DEFAULT, name.toUtf8().constData(), &modtime, ppdPath, sizeof ppdPath);
-    if (status != HTTP_STATUS_OK) {
+    std::unique_ptr<PrintDialogHost> host;
+    if (status != HTTP_STATUS_OK)
         *error = QStringLiteral("printer %1 has no PPD: %2").arg(queue, QString::fromUtf8(cupsLastErrorString()));
-        cupsFreeDests(1, dest);
-        return nullptr;
-    }
-    std::unique_ptr<PrintDialogHost> host(new PrintDialogHost);
-    host->m_tempPPD = QFile::decodeName(ppdPath);
-    if (!host->openPPD(host->m_tempPPD, error)) {
-        cupsFreeDests(1, dest);
-        return nullptr;
-    }
-    host->m_printer = std::make_unique<PMPrinter>(queue, server, true);
-    // The queue's saved options (an instance's on top of them), each through
-    // approval; what cannot be used is told and left out.
-    QStringList skipped;
-    host->applyParsed(dest->num_options, dest->options, nullptr, &skipped);
-    if (warnings)
-        *warnings = skipped;
+    else
+        host = openQueue(queue, server, QFile::decodeName(ppdPath), dest->num_options, dest->options, error, warnings);
     cupsFreeDests(1, dest);
     return host;
 }
 
-QString PrintDialogHost::defaultDestination(const QString& server, bool* reachable)
+std::unique_ptr<PrintDialogHost> PrintDialogHost::openQueue(const QString& queue, const QString& server, const QString& ppdFile,
+                                                           int optionCount, const cups_option_t* options, QString* error,
+                                                           QStringList* warnings)
 {
-    if (!server.isEmpty())
-        cupsSetServer(server.toUtf8().constData());
-    QString name;
-    if (cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, nullptr, nullptr)) {
-        name = QString::fromUtf8(dest->name);
-        if (dest->instance)
-            name += QLatin1Char('/') + QString::fromUtf8(dest->instance);
-        cupsFreeDests(1, dest);
-    } else {
-        // No default: the first queue the server has.
-        cups_dest_t* dests = nullptr;
-        const int count = cupsGetDests2(CUPS_HTTP_DEFAULT, &dests);
-        for (int i = 0; i < count && name.isEmpty(); ++i)
-            if (!dests[i].instance)
-                name = QString::fromUtf8(dests[i].name);
-        cupsFreeDests(count, dests);
-    }
-    if (reachable)
-        *reachable = !name.isEmpty() || unreachableServer(server).isEmpty();
-    return name;
+    std::unique_ptr<PrintDialogHost> host(new PrintDialogHost);
+    host->m_tempPPD = ppdFile;
+    if (!host->openPPD(host->m_tempPPD, error))
+        return nullptr;
+    host->m_printer = std::make_unique<PMPrinter>(queue, server, true);
+    // The queue's saved options (an instance's on top of them), each through
+    // approval; what cannot be used is told and left out.
+    QStringList skipped;
+    host->applyParsed(optionCount, options, nullptr, &skipped);
+    if (warnings)
+        *warnings = skipped;
+    return host;
 }
 
 QString PrintDialogHost::unreachableServer(const QString& server)

@@ -30,10 +30,11 @@ public:
     // cannot be used are told in *warnings.
     static std::unique_ptr<PrintDialogHost> openPrinter(const QString& queue, const QString& server, QString* error,
                                                         QStringList* warnings = nullptr);
-    // The user's default destination ("queue" or "queue/instance": the
-    // lpoptions default, else the server's, else the first queue); empty when
-    // the server has no queue. *reachable tells whether the server answered.
-    static QString defaultDestination(const QString& server, bool* reachable = nullptr);
+    // The same for a queue whose PPD was fetched into ppdFile (a temporary
+    // file, removed with the host) and whose saved options were read.
+    static std::unique_ptr<PrintDialogHost> openQueue(const QString& queue, const QString& server, const QString& ppdFile,
+                                                      int optionCount, const struct cups_option_s* options, QString* error,
+                                                      QStringList* warnings = nullptr);
     // Why a server gives no answer, in words for the user ("the CUPS server at
     // localhost:631 cannot be reached: is the scheduler running?"), or empty
     // when it answers.

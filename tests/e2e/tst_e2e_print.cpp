@@ -111,6 +111,12 @@ private slots:
         int id = 0;
         QString out, err;
         if (way == QLatin1String("cli")) {
+            // A headless opening asks for the queue once and fetches its PPD once.
+            const qsizetype logged = m_server.accessLog().size();
+            QVERIFY2(print({"--print-options"}, &out, &err) == 0, qPrintable(err));
+            const QStringList requests = m_server.accessLog().mid(logged);
+            QCOMPARE(requests.size(), 2);
+            QCOMPARE(requests.filter(QStringLiteral("Get-Printer-Attributes")).size() + requests.filter(QStringLiteral("GET /printers/%1.ppd").arg(m_queue)).size(), 2);
             QStringList args{"--print", docs[0]};
             for (const QString& o : optionStrings)
                 args << "-o" << o;
@@ -127,10 +133,14 @@ private slots:
             window.setDocuments(docs);
             window.show();
             QVERIFY(QTest::qWaitForWindowExposed(&window));
-            // An opening fetches the PPD once and the destinations once.
+            // An opening asks for the destinations once and fetches the PPD once: nothing more.
             const QStringList requests = m_server.accessLog().mid(logged);
-            QCOMPARE(requests.filter(QStringLiteral("GET /printers/%1.ppd").arg(m_queue)).size(), 1);
-            QCOMPARE(requests.filter(QStringLiteral("CUPS-Get-Printers")).size(), 1);
+            QCOMPARE(requests.size(), 2);
+            QCOMPARE(requests.filter(QStringLiteral("CUPS-Get-Printers")).size() + requests.filter(QStringLiteral("GET /printers/%1.ppd").arg(m_queue)).size(), 2);
+            // A printer opened again in the window fetches its PPD, nothing more.
+            QVERIFY2(window.openSession({{}, m_queue, m_server.address(), {}, optionStrings}, &error), qPrintable(error));
+            const QStringList again = m_server.accessLog().mid(logged + 2);
+            QVERIFY2(again.size() == 1 && again.first().contains(QStringLiteral("GET /printers/%1.ppd").arg(m_queue)), qPrintable(again.join('\n')));
             // A message box would wait for a click that never comes: it is closed, its text kept.
             QString boxText;
             QTimer watchdog;
