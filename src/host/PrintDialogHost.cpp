@@ -475,8 +475,14 @@ PrintDialogHost::OptionList PrintDialogHost::markedChoices() const
 
 void PrintDialogHost::remark(const OptionList& marks)
 {
-    for (const auto& [key, choice] : marks)
-        ppdMarkOption(m_ppd, key.toUtf8().constData(), choice.toUtf8().constData());
+    for (const auto& [key, choice] : marks) {
+        // Each mark runs libcups' conflict check over every constraint of the
+        // PPD: only choices that are not marked now are marked again.
+        const QByteArray k = key.toUtf8(), c = choice.toUtf8();
+        const ppd_choice_t* marked = ppdFindMarkedChoice(m_ppd, k.constData());
+        if (!marked || c != marked->choice)
+            ppdMarkOption(m_ppd, k.constData(), c.constData());
+    }
 }
 
 bool PrintDialogHost::willChangePPDOptionKeyValue(const QString& option, const QString& choice)
