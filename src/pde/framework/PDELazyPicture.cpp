@@ -1,42 +1,52 @@
 #include "PDELazyPicture.h"
 
-#include "PDEWhenShown.h"
-
+#include <QEvent>
 #include <QImageReader>
 #include <QLabel>
 #include <QPixmap>
+
+PDELazyPicture::PDELazyPicture(QLabel* label, const QString& path, const QSize& room)
+    : QObject(label), m_label(label), m_path(path), m_ownMinimumSize(label->minimumSize())
+{
+    const QMargins m = label->contentsMargins();
+    const int frame = 2 * label->frameWidth();
+    label->setMinimumSize(m_ownMinimumSize.expandedTo(room + QSize(m.left() + m.right() + frame, m.top() + m.bottom() + frame)));
+    label->installEventFilter(this);
+}
+
+void PDELazyPicture::release()
+{
+    m_label->removeEventFilter(this);
+    m_label->setMinimumSize(m_ownMinimumSize);
+}
 
 bool PDELazyPicture::set(QLabel* label, const QString& path)
 {
     if (!label)
         return false;
-    static const QString key = QStringLiteral("picture");
-    // A picture still waiting gives its place back first.
-    PDEWhenShown::cancel(label, key);
-    if (const QVariant pinned = label->property("pdePictureMinimumSize"); pinned.isValid()) {
-        label->setMinimumSize(pinned.toSize());
-        label->setProperty("pdePictureMinimumSize", QVariant());
+    // A picture still waiting gives way to this one.
+    if (auto* waiting = label->findChild<PDELazyPicture*>(QString(), Qt::FindDirectChildrenOnly)) {
+        waiting->release();
+        delete waiting;
     }
     label->clear();
     QImageReader reader(path);
     const QSize size = path.isEmpty() ? QSize() : reader.size();
     if (!size.isValid() || !reader.canRead())
         return false;
-    if (label->isVisible()) {
+    if (label->isVisible())
         label->setPixmap(QPixmap(path));
-        return true;
-    }
-    // Until it is decoded, the label keeps the room the picture will take, so
-    // that sizes worked out before the first showing come out the same.
-    const QSize original = label->minimumSize();
-    const QMargins m = label->contentsMargins();
-    const int frame = 2 * label->frameWidth();
-    label->setProperty("pdePictureMinimumSize", original);
-    label->setMinimumSize(original.expandedTo(size + QSize(m.left() + m.right() + frame, m.top() + m.bottom() + frame)));
-    PDEWhenShown::run(label, key, [label, path, original] {
-        label->setProperty("pdePictureMinimumSize", QVariant());
-        label->setMinimumSize(original);
-        label->setPixmap(QPixmap(path));
-    });
+    else
+        new PDELazyPicture(label, path, size);
     return true;
+}
+
+bool PDELazyPicture::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == m_label && event->type() == QEvent::Show) {
+        release();
+        m_label->setPixmap(QPixmap(m_path));
+        deleteLater();
+    }
+    return QObject::eventFilter(watched, event);
 }

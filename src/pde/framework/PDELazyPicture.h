@@ -1,14 +1,33 @@
 #pragma once
+#include <QObject>
+#include <QSize>
 #include <QString>
 
 class QLabel;
 
 // Puts a picture file into a label, decoded only when the label is first
-// shown (PDEWhenShown). The file's header is read at once, so a missing or
-// unreadable picture is known immediately.
-class PDELazyPicture {
+// shown: panels carry pictures on tabs and pages the user may never open, and
+// a headless run shows none. The file's header is read at once, so a missing
+// or unreadable picture is known immediately, and until it is decoded the
+// label asks for the room the picture will take, so that layouts worked out
+// before the first showing come out the same.
+class PDELazyPicture : public QObject {
+    Q_OBJECT
+
 public:
     // Shows the picture at path in label. An empty path, or a file that is
     // not a readable picture, empties the label and returns false.
     static bool set(QLabel* label, const QString& path);
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    PDELazyPicture(QLabel* label, const QString& path, const QSize& room);
+    // Gives the label back the minimum size it had of its own.
+    void release();
+
+    QLabel* m_label;
+    QString m_path;
+    QSize m_ownMinimumSize;
 };
