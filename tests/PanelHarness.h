@@ -25,10 +25,7 @@ struct Opened {
 template <class P, class F = void (*)(P&)>
 Opened<P> openPanel(const QString& ppd, const QString& options = {}, F setUp = [](P&) {})
 {
-    Opened<P> o{TestSupport::openHost(ppd), nullptr};
-    QString error;
-    if (o.host && !options.isEmpty() && !o.host->applyOptions(options, &error))
-        qWarning("%s", qPrintable(error));
+    Opened<P> o{TestSupport::openHost(ppd, options), nullptr};
     if (o.host && (o.panel = P::create(o.host.get(), PDEBundle::embedded()))) {
         setUp(*o.panel);
         o.panel->restoreValuesAndReturnError(nullptr);

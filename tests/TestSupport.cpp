@@ -23,12 +23,14 @@ QString samplePPD(const QString& name)
     return QDir(QStringLiteral(PDE_SOURCE_BUNDLE_DIR)).filePath(QStringLiteral("printers/") + name + QStringLiteral(".ppd"));
 }
 
-std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath)
+std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString& options)
 {
     QString error;
     auto host = PrintDialogHost::openPPDFile(ppdPath, &error);
+    if (host && !options.isEmpty() && !host->applyOptions(options, &error))
+        host.reset();
     if (!host)
-        qWarning("cannot open %s: %s", qPrintable(ppdPath), qPrintable(error));
+        qWarning("cannot open %s with \"%s\": %s", qPrintable(ppdPath), qPrintable(options), qPrintable(error));
     return host;
 }
 

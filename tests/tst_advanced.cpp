@@ -23,17 +23,6 @@ class AdvancedTest : public QObject {
     Q_OBJECT
 
 private slots:
-    // Millimetres travel as inches with two decimals, rounded, and come back.
-    void conversions()
-    {
-        for (const auto& [mm, inches] : {std::pair{4, "0.16"}, {25, "0.98"}, {13, "0.51"}, {0, "0.00"}}) {
-            QCOMPARE(MRAdvancedOptionPDE::getOverlapInchValue(mm), QString::fromLatin1(inches));
-            QCOMPARE(MRAdvancedOptionPDE::getOverlapMMValue(QString::fromLatin1(inches).toFloat()), mm);
-        }
-        QCOMPARE(MRAdvancedOptionPDE::getGutterMMValue(0.5f), 13);
-        QCOMPARE(MRAdvancedOptionPDE::getOverlapMMValue(1.0f), 25);
-    }
-
     void escapes_data()
     {
         QTest::addColumn<QString>("text");

@@ -1,7 +1,8 @@
-// Control controllers on real widgets, bound to features of the real option
-// model over tests/fixtures/controls.ppd; changes are approved by the real
-// host (libcups marking and conflict resolution).
+// Control controllers and triggers on real widgets, bound to features of the
+// real option model over tests/fixtures/controls.ppd; changes are approved by
+// the real host (libcups marking and conflict resolution).
 #include "MRPDEBasicTrigger.h"
+#include "MRPDEComplexTrigger.h"
 #include "MRPDESecureTextFieldController.h"
 #include "MRPDEStepperController.h"
 #include "MRPDEStringFormatter.h"
@@ -72,6 +73,7 @@ struct Bench {
     std::shared_ptr<C> bind(const QString& key, QWidget* w) { return C::initiateControllerForFeatureWithControlModel(f(key), w, model.get()); }
     QString value(const QString& key) const { return f(key)->currentValue() ? f(key)->currentValue()->keyword() : QString(); }
     void set(const QString& key, const QString& v) const { f(key)->setCurrentValue(PDE_MACChoice::choiceWithKeywordDisplayString(v, v)); }
+    bool pick(const QString& key, const QString& choice) const { return f(key)->setCurrentValueWithChoiceWithKeyword(choice); }
     // The choice libcups has marked.
     QString marked(const QString& option) const { return QString::fromUtf8(ppdFindMarkedChoice(host->ppd(), qPrintable(option))->choice); }
 
@@ -331,15 +333,6 @@ private slots:
         // No action line, and the secret is in no line.
         const QStringList lines = log.lines();
         QVERIFY2(lines.filter(u"UIAction"_s).isEmpty() && (shown.isEmpty() || lines.filter(shown).isEmpty()), qPrintable(lines.join(u'\n')));
-        // Delayed: written only when printing.
-        sc->setMinLength(0);
-        sc->setMaxLength(0);
-        sc->setDelayedFeatureWrite(true);
-        field->setFocus();
-        typeText(field, u"st"_s);
-        QVERIFY(b.value(key) != field->text());
-        QVERIFY(sc->goingToPrint());
-        QCOMPARE(b.value(key), field->text());
     }
 
     void stepper_data()
@@ -511,6 +504,129 @@ private slots:
         QFile expected(TestSupport::fixture(u"described_panel.json"_s));
         QVERIFY(expected.open(QIODevice::ReadOnly));
         QCOMPARE(PanelDescriber::describeControls(&b.panel), QJsonDocument::fromJson(expected.readAll()).object());
+    }
+
+    // Triggers over the fixture's features: evaluation on registration,
+    // operators, nesting, notification on every write, teardown without
+    // dangling observers.
+    void basicTrigger_data()
+    {
+        QTest::addColumn<QString>("value");
+        QTest::addColumn<bool>("initially");
+        QTest::addColumn<bool>("after");  // once Finish is Satin
+        QTest::newRow("matches at once") << "Matte" << true << false;
+        QTest::newRow("becomes set") << "Satin" << false << true;
+        QTest::newRow("case-sensitive") << "satin" << false << false;
+        QTest::newRow("display string is not the keyword") << "Satin Paper" << false << false;
+    }
+    void basicTrigger()
+    {
+        QFETCH(QString, value);
+        QFETCH(bool, after);
+        Bench b;
+        auto t = PDEMakeBasicTrigger(b.f(u"Finish"_s), value);
+        QTEST(t->isSet(), "initially");
+        QVERIFY(b.pick(u"Finish"_s, u"Satin"_s));
+        QCOMPARE(t->isSet(), after);
+        QVERIFY(t->description().endsWith(u": Finish=>%1 isSet(%2)"_s.arg(value).arg(int(after))));
+    }
+
+    void complexOperators_data()
+    {
+        QTest::addColumn<int>("op");
+        QTest::addColumn<QList<bool>>("members");  // whether each member condition holds
+        QTest::addColumn<bool>("expected");
+        QTest::newRow("OR none") << 1 << QList<bool>{false, false} << false;
+        QTest::newRow("OR one") << 1 << QList<bool>{false, true} << true;
+        QTest::newRow("NOT of one set") << 2 << QList<bool>{true} << false;
+        QTest::newRow("NOT of one unset") << 2 << QList<bool>{false} << true;
+        QTest::newRow("NOT of two, one set") << 2 << QList<bool>{true, false} << false;
+        // Operator 0: all members but one are set.
+        QTest::newRow("0 with exactly one of two set") << 0 << QList<bool>{true, false} << true;
+        QTest::newRow("0 with both set") << 0 << QList<bool>{true, true} << false;
+        QTest::newRow("0 with none of two set") << 0 << QList<bool>{false, false} << false;
+        QTest::newRow("0 with one member unset") << 0 << QList<bool>{false} << true;
+        QTest::newRow("0 with two of three set") << 0 << QList<bool>{true, true, false} << true;
+        QTest::newRow("unknown operator keeps false") << 7 << QList<bool>{true} << false;
+    }
+    void complexOperators()
+    {
+        QFETCH(QList<bool>, members);
+        Bench b;
+        // Members over three features at their defaults.
+        const QList<QPair<QString, QString>> defaults {{u"Finish"_s, u"Matte"_s}, {u"Sealing"_s, u"Weak"_s}, {u"CurlMode"_s, u"Off"_s}};
+        QList<PDETriggerPtr> list;
+        for (qsizetype i = 0; i < members.size(); ++i)
+            list << PDEMakeBasicTrigger(b.f(defaults[i].first), members[i] ? defaults[i].second : u"Other"_s);
+        QTEST(PDEMakeComplexTrigger(cell<int>("op"), list)->isSet(), "expected");
+    }
+
+    void nestingPropagates()
+    {
+        Bench b;
+        // Set when Sealing is not Weak or Finish is Satin.
+        auto notWeak = PDEMakeComplexTrigger(2, {PDEMakeBasicTrigger(b.f(u"Sealing"_s), u"Weak"_s)});
+        auto either = PDEMakeComplexTrigger(1, {notWeak, PDEMakeBasicTrigger(b.f(u"Finish"_s), u"Satin"_s)});
+        QVERIFY(!either->isSet());
+        QVERIFY(b.pick(u"Sealing"_s, u"Strong"_s));
+        QVERIFY(notWeak->isSet() && either->isSet());
+        QVERIFY(b.pick(u"Sealing"_s, u"Weak"_s));
+        QVERIFY(!either->isSet());
+        QVERIFY(b.pick(u"Finish"_s, u"Satin"_s));
+        QVERIFY(either->isSet());
+    }
+
+    void everyWriteNotifies()
+    {
+        Bench b;
+        auto t = PDEMakeBasicTrigger(b.f(u"CurlMode"_s), u"On"_s);
+        QObject observer;
+        QList<bool> seen;
+        t->observeIsSet(&observer, [&](PDETriggerProtocol* p) { seen << p->isSet(); }, true);
+        QCOMPARE(seen, QList<bool>{false});
+        // A new but equal choice re-evaluates, and the unchanged state is still written.
+        b.set(u"CurlMode"_s, u"Off"_s);
+        QCOMPARE(seen, (QList<bool>{false, false}));
+        QVERIFY(b.pick(u"CurlMode"_s, u"On"_s));
+        QCOMPARE(seen, (QList<bool>{false, false, true}));
+        t->setIsSet(true);
+        QCOMPARE(seen.size(), 4);
+    }
+
+    void makersRejectMissingArguments()
+    {
+        Bench b;
+        QVERIFY(!PDEMakeBasicTrigger(nullptr, u"x"_s));
+        QVERIFY(!PDEMakeBasicTrigger(b.f(u"Finish"_s), QString()));
+        QVERIFY(!PDEMakeComplexTrigger(1, {}));
+        // Unconfigured triggers never change; a feature without a value keeps the trigger's state.
+        QVERIFY(!MRPDEBasicTrigger(nullptr, u"x"_s).isSet());
+        auto t = PDEMakeBasicTrigger(std::make_shared<MRPDE_MACFeature>(), u""_s);
+        QVERIFY(t && !t->isSet());
+    }
+
+    void teardownStopsObservation()
+    {
+        Bench b;
+        auto finish = b.f(u"Finish"_s);
+        int calls = 0;
+        {
+            auto complex = PDEMakeComplexTrigger(2, {PDEMakeBasicTrigger(finish, u"Satin"_s)});
+            QObject observer;
+            complex->observeIsSet(&observer, [&](PDETriggerProtocol*) { ++calls; }, false);
+            QVERIFY(b.pick(u"Finish"_s, u"Satin"_s));
+            QCOMPARE(calls, 1);
+        }
+        // Nothing observes the feature any more: changing it reaches no freed object.
+        QCOMPARE(finish->observerCount(), 0);
+        QVERIFY(b.pick(u"Finish"_s, u"Matte"_s));
+        QCOMPARE(calls, 1);
+        // A member outliving its complex trigger no longer reports to it.
+        auto member = PDEMakeBasicTrigger(finish, u"Satin"_s);
+        { auto c = PDEMakeComplexTrigger(1, {member}); }
+        QCOMPARE(member->observerCount(), 0);
+        QVERIFY(b.pick(u"Finish"_s, u"Satin"_s));
+        QVERIFY(member->isSet());
     }
 
 private:

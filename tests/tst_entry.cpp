@@ -7,7 +7,6 @@
 #include "PDELogSink.h"
 #include "PDEPanel.h"
 #include "PDEPanelFactory.h"
-#include "PDEVersionChecks.h"
 #include "PanelSession.h"
 #include "TestSupport.h"
 
@@ -228,9 +227,6 @@ private slots:
         const QStringList generic{"Graphics/Paper", "Job Handling", "Finishing", "Security"};
         const QStringList standalone{"Secure Release", "Advanced Options", "Manual 2-Sided Printing", "Special Pages", "Margin"};
         QTest::newRow("colour MFP: all nine") << TestSupport::samplePPD() << generic + standalone;
-        QStringList noSpecialPages = generic + standalone;
-        noSpecialPages.removeAll(QStringLiteral("Special Pages"));
-        QTest::newRow("M200: no special pages") << TestSupport::samplePPD(QStringLiteral("velmora-m200")) << noSpecialPages;
         QFile sample(TestSupport::samplePPD());
         QVERIFY(sample.open(QIODevice::ReadOnly));
         QByteArray text = sample.readAll();
@@ -251,22 +247,6 @@ private slots:
         for (const auto& p : session->panels())
             got << p->panelName();
         QTEST(got, "names");
-    }
-
-    void versionProbes()
-    {
-        PDELogCapture log;
-        QVERIFY(RunningOn105OrLater());
-        QVERIFY(RunningOn105OrLater());
-        QCOMPARE(log.count(QStringLiteral("(64-bit) Mac OS X 10.5 or later")), 2);
-
-        const bool first = isBiggerThan106();
-        QCOMPARE(isBiggerThan106(), first);
-        const QStringList versions = log.lines().filter(QRegularExpression(QStringLiteral("^System Version \\d+\\.\\d+\\.\\d+$")));
-        QCOMPARE(versions.size(), 1);
-        const QStringList parts = versions.first().mid(15).split(QLatin1Char('.'));
-        const int major = parts[0].toInt(), minor = parts[1].toInt();
-        QCOMPARE(first, major > 10 || (major == 10 && minor >= 7));
     }
 
 private:

@@ -1,7 +1,7 @@
 // The Job Handling panel on the sample printers and small PPDs of our own:
 // print modes by installed hardware, sub-view swaps, field rules, the checks
 // before printing with their alerts, delayed password writes and the
-// job-accounting confirmation, in process and through the command line.
+// job-accounting confirmation.
 #include "MRPDE_MACJobHandlingEH.h"
 #include "MRPDE_MACJobHandlingPDEController.h"
 #include "PDEAlerts.h"
@@ -282,8 +282,6 @@ private slots:
     {
         auto p = Panel::open(c5500, QStringLiteral("ColorModel=Gray AccountType=Pincode PINCode=bob"));
         QVERIFY(p);
-        QVERIFY(p->eh->panelKind().endsWith(QStringLiteral(".jobHandlingPDE")));
-        QCOMPARE(p->eh->panelName(), QStringLiteral("Job Handling"));
         const QVariantMap summary = p->eh->summaryInfo();
         QCOMPARE(summary.value(QStringLiteral("AccountType")).toString(), QStringLiteral("Pincode"));
         QCOMPARE(summary.value(QStringLiteral("JobSetting")).toString(), QStringLiteral("Normal"));
@@ -298,17 +296,6 @@ private slots:
         for (const char* key : {"EnterPassword", "ConfirmPassword", "AccountPassword", "ConfirmAcctPassword", "NewPIN", "ConfirmNewPIN", "PINCode"})
             QVERIFY2(PDESecrets::isSecretKey(QString::fromLatin1(key)), key);
         QVERIFY(!PDESecrets::isSecretKey(QStringLiteral("AccountID")));
-    }
-
-    // Without a window a refused print exits 3 with the alert, in the
-    // user's language where the PPD has it.
-    void refusedOnTheCommandLine()
-    {
-        QString out, err;
-        QCOMPARE(TestSupport::runApp({"--ppd", c5500, "-o", "JobSetting=Confidential VELSecureReleaseOption3=Off", "--print-options"}, &out,
-                                     &err, {"LC_ALL=de_DE.UTF-8", "LANG=de_DE.UTF-8"}), 3);
-        QVERIFY2(err.contains(QStringLiteral("print-panels: Geben Sie ein alphanumerisches Kennwort ein und wiederholen Sie es zur Bestätigung, "
-                                             "um den Druckmodus zu verwenden.")), qPrintable(err));
     }
 };
 

@@ -179,15 +179,6 @@ private slots:
         QVERIFY(o.host->printSettings()->contains(kSecureReleaseUserIDKey));
         QCOMPARE(o.host->printSettings()->value(kSecureReleaseUserIDKey), printed);
     }
-
-    // Through the plug-in entry, as the command line prints: the user ID key
-    // is there, empty, when no ID was given.
-    void headless()
-    {
-        QString out, err;
-        QCOMPARE(TestSupport::runApp({"--ppd", TestSupport::samplePPD("velmora-m200"), "--print-options"}, &out, &err), 0);
-        QVERIFY2(out.contains("\nPSSUSERID=\n"), qPrintable(err));
-    }
 };
 
 QTEST_MAIN(ManualDuplexSecureReleaseTest)

@@ -72,23 +72,6 @@ private slots:
         QTEST(f->text(), "shown");
     }
 
-    void conversions_data()
-    {
-        QTest::addColumn<QString>("inches");
-        QTest::addColumn<QString>("millimetres");
-        QTest::addColumn<QString>("inchText");
-        QTest::newRow("default") << "0.4" << "10" << "0.40";
-        QTest::newRow("10 mm stored") << "0.39" << "10" << "0.39";
-        QTest::newRow("limit") << "2.00" << "51" << "2.00";
-        QTest::newRow("zero") << "0" << "0" << "0.00";
-    }
-    void conversions()
-    {
-        QFETCH(QString, inches);
-        QTEST(MRManualMarginPDE::displayValue(inches, true), "millimetres");
-        QTEST(MRManualMarginPDE::displayValue(inches, false), "inchText");
-    }
-
     // Steppers step 1 mm or 0.04 inch within the tag's range, and front
     // values follow to the back while the group's switch is on.
     void steppersAndSameValue_data()

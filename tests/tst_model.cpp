@@ -39,9 +39,7 @@ class ModelTest : public QObject {
     // A host on the model PPD, with options applied and print settings stored.
     std::unique_ptr<PrintDialogHost> host(const QString& options = {}, const QVariantMap& settings = {})
     {
-        auto h = TestSupport::openHost(m_ppd);
-        if (h && !options.isEmpty() && !h->applyOptions(options, nullptr))
-            return nullptr;
+        auto h = TestSupport::openHost(m_ppd, options);
         for (auto it = settings.begin(); h && it != settings.end(); ++it)
             h->printSettings()->setValue(it.key(), it.value().toString());
         return h;

@@ -5,9 +5,9 @@
 #include "PDEBundle.h"
 #include "PDELogSink.h"
 #include "PrintDialogHost.h"
+#include "TestSupport.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QStringList>
 #include <cstdint>
 #include <cstdio>
@@ -70,9 +70,8 @@ inline QStringList lines(const uint8_t* data, size_t size, int atLeast)
 // A host on the sample printer that has every panel, made anew for each input.
 inline std::unique_ptr<PrintDialogHost> sampleHost()
 {
-    QString error;
-    auto host = PrintDialogHost::openPPDFile(QDir(QStringLiteral(PDE_SOURCE_BUNDLE_DIR)).filePath(QStringLiteral("printers/velmora-c5500.ppd")), &error);
-    check(host != nullptr, "the sample printer does not open", error);
+    auto host = TestSupport::openHost(TestSupport::samplePPD());
+    check(host != nullptr, "the sample printer does not open");
     return host;
 }
 

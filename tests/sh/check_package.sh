@@ -6,8 +6,8 @@
 #   - print-panels --version, the manual page and the bash completion;
 #   - --describe on the installed sample printer; the program reads the
 #     bundle beside it;
-#   - --print to a private cupsd (own ServerRoot on 127.0.0.1, a capture
-#     backend), started and stopped here by its pid;
+#   - --print to a private cupsd (bench/private-cupsd.sh: own ServerRoot on
+#     127.0.0.1, a capture backend), stopped by its pid;
 #   - the desktop entry and the AppStream metainfo validate;
 #   - an application builds against the integration library's -dev package.
 # It changes the system, so it runs as root only (exit 77, skipped, else).
@@ -30,7 +30,8 @@ done
 export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
 work=$(mktemp -d /tmp/print-panels-package-XXXXXX)
 chmod 755 "$work"  # apt's own user reads the .deb files here
-cupsd_pid=""
+cupsd_started=0
+private_cupsd="$(dirname "$(realpath "$0")")/../../bench/private-cupsd.sh"
 installed=0
 failed=0
 
@@ -43,11 +44,8 @@ check() {  # check DESCRIPTION COMMAND...: passes when the command does
 }
 
 stop_cupsd() {
-    if [ -n "$cupsd_pid" ]; then
-        kill "$cupsd_pid" 2>/dev/null || true
-        wait "$cupsd_pid" 2>/dev/null || true
-        cupsd_pid=""
-    fi
+    if [ "$cupsd_started" -eq 1 ]; then bash "$private_cupsd" stop "$work/cups"; fi
+    cupsd_started=0
 }
 remove_packages() {
     apt-get purge -y -qq "${packages[@]}" >"$work/purge.log" 2>&1
@@ -183,72 +181,12 @@ else
     fail "an application built with libprintpanels-integration-dev"
 fi
 
-# --print to a private cupsd whose capture backend keeps the job.
+# --print to a private cupsd (bench/private-cupsd.sh) whose capture backend keeps the job.
 cups="$work/cups"
-mkdir -p "$cups"/{etc,spool/tmp,cache,state,log,bin/backend,capture,client}
-chmod 700 "$cups/client"
-chown lp "$cups/capture"
-for d in /usr/lib/cups/*/; do
-    d=$(basename "$d")
-    [[ $d == backend* ]] || ln -s "/usr/lib/cups/$d" "$cups/bin/$d"
-done
-cat >"$cups/bin/backend/capture" <<'EOF'
-#!/bin/sh
-if [ $# -eq 0 ]; then echo 'direct capture "Unknown" "Print Panels capture"'; exit 0; fi
-base="${DEVICE_URI#capture:}/job-$1"
-printf '%s\n' "$5" > "$base.options" || exit 1
-if [ $# -ge 6 ]; then cat "$6"; else cat; fi > "$base.doc" || exit 1
-: > "$base.done"
-EOF
-chmod 755 "$cups/bin/backend/capture"
-# A port nobody listens on.
-port=0
-for try in $(seq 50); do
-    candidate=$((20000 + RANDOM % 40000))
-    if ! (exec 3<>"/dev/tcp/127.0.0.1/$candidate") 2>/dev/null; then port=$candidate; break; fi
-done
-cat >"$cups/cups-files.conf" <<EOF
-ServerRoot $cups/etc
-RequestRoot $cups/spool
-TempDir $cups/spool/tmp
-CacheDir $cups/cache
-StateDir $cups/state
-ServerBin $cups/bin
-ServerKeychain $cups/etc/ssl
-Printcap $cups/etc/printcap
-AccessLog $cups/log/access_log
-ErrorLog $cups/log/error_log
-PageLog $cups/log/page_log
-FileDevice Yes
-User lp
-Group lp
-EOF
-cat >"$cups/cupsd.conf" <<EOF
-Listen 127.0.0.1:$port
-Browsing No
-WebInterface No
-DefaultAuthType None
-LogLevel warn
-<Location />
-  Order allow,deny
-  Allow all
-</Location>
-<Location /admin>
-  Order allow,deny
-  Allow all
-</Location>
-EOF
+cupsd_started=1  # stopped on the way out, also if starting fails half-way
+started=$(bash "$private_cupsd" start "$cups" "velmora=$sample" 2>"$work/lpadmin.log") || { cat "$work/lpadmin.log"; exit 1; }
+server=$(head -n 1 <<<"$started")
 export HOME="$cups/client" CUPS_SERVERROOT="$cups/client" XDG_RUNTIME_DIR="$cups/client"
-server="127.0.0.1:$port"
-cupsd -f -c "$cups/cupsd.conf" -s "$cups/cups-files.conf" >"$cups/log/cupsd.out" 2>&1 &
-cupsd_pid=$!
-for try in $(seq 150); do
-    lpstat -h "$server" -r 2>/dev/null | grep -q 'is running' && break
-    sleep 0.1
-done
-# (lpadmin says that PPD files are deprecated: that is known.)
-lpadmin -h "$server" -p velmora -E -v "capture:$cups/capture" -P "$sample" >"$work/lpadmin.log" 2>&1 ||
-    { cat "$work/lpadmin.log" "$cups/log/error_log"; exit 1; }
 echo "A page printed by the installed print-panels." >"$work/page.txt"
 if print-panels --server "$server" --printer velmora -o Duplex=DuplexNoTumble --print "$work/page.txt" >"$work/print.out" 2>&1; then
     pass "--print: $(cat "$work/print.out")"
@@ -257,11 +195,12 @@ else
     fail "--print to $server"
 fi
 for try in $(seq 300); do
-    [ -e "$cups/capture/job-1.done" ] && break
+    [ -z "$(lpstat -h "$server" -o velmora 2>/dev/null)" ] && [ -e "$cups/spool/c00001" ] && break
     sleep 0.1
 done
-check "the capture backend got the job" test -s "$cups/capture/job-1.doc"
-check "the job carries the panels' options" grep -q 'Duplex=DuplexNoTumble' "$cups/capture/job-1.options"
+check "the capture backend got the job" test -s "$cups/capture/velmora/job-1.doc"
+# The job's attributes, as cupsd keeps them in its control file.
+check "the job carries the panels' options" grep -aq 'DuplexNoTumble' "$cups/spool/c00001"
 # The completion of -o asks the queue for its options and their choices.
 export CUPS_SERVER=$server
 offered=$(completions "print-panels --printer velmora -o Dup" print-panels --printer velmora -o Dup)
