@@ -561,24 +561,19 @@ private slots:
         QTEST(PDEMakeComplexTrigger(cell<int>("op"), list)->isSet(), "expected");
     }
 
-    void nestingPropagates()
+    // Arguments missing, nesting, a notification on every write, and no
+    // observer left behind by a trigger gone.
+    void triggerObservation()
     {
         Bench b;
-        // Set when Sealing is not Weak or Finish is Satin.
-        auto notWeak = PDEMakeComplexTrigger(2, {PDEMakeBasicTrigger(b.f(u"Sealing"_s), u"Weak"_s)});
-        auto either = PDEMakeComplexTrigger(1, {notWeak, PDEMakeBasicTrigger(b.f(u"Finish"_s), u"Satin"_s)});
-        QVERIFY(!either->isSet());
-        QVERIFY(b.pick(u"Sealing"_s, u"Strong"_s));
-        QVERIFY(notWeak->isSet() && either->isSet());
-        QVERIFY(b.pick(u"Sealing"_s, u"Weak"_s));
-        QVERIFY(!either->isSet());
-        QVERIFY(b.pick(u"Finish"_s, u"Satin"_s));
-        QVERIFY(either->isSet());
-    }
+        QVERIFY(!PDEMakeBasicTrigger(nullptr, u"x"_s));
+        QVERIFY(!PDEMakeBasicTrigger(b.f(u"Finish"_s), QString()));
+        QVERIFY(!PDEMakeComplexTrigger(1, {}));
+        // Unconfigured triggers never change; a feature without a value keeps the trigger's state.
+        QVERIFY(!MRPDEBasicTrigger(nullptr, u"x"_s).isSet());
+        auto valueless = PDEMakeBasicTrigger(std::make_shared<MRPDE_MACFeature>(), u""_s);
+        QVERIFY(valueless && !valueless->isSet());
 
-    void everyWriteNotifies()
-    {
-        Bench b;
         auto t = PDEMakeBasicTrigger(b.f(u"CurlMode"_s), u"On"_s);
         QObject observer;
         QList<bool> seen;
@@ -591,28 +586,24 @@ private slots:
         QCOMPARE(seen, (QList<bool>{false, false, true}));
         t->setIsSet(true);
         QCOMPARE(seen.size(), 4);
-    }
 
-    void makersRejectMissingArguments()
-    {
-        Bench b;
-        QVERIFY(!PDEMakeBasicTrigger(nullptr, u"x"_s));
-        QVERIFY(!PDEMakeBasicTrigger(b.f(u"Finish"_s), QString()));
-        QVERIFY(!PDEMakeComplexTrigger(1, {}));
-        // Unconfigured triggers never change; a feature without a value keeps the trigger's state.
-        QVERIFY(!MRPDEBasicTrigger(nullptr, u"x"_s).isSet());
-        auto t = PDEMakeBasicTrigger(std::make_shared<MRPDE_MACFeature>(), u""_s);
-        QVERIFY(t && !t->isSet());
-    }
+        // Set when Sealing is not Weak or Finish is Satin.
+        auto notWeak = PDEMakeComplexTrigger(2, {PDEMakeBasicTrigger(b.f(u"Sealing"_s), u"Weak"_s)});
+        auto either = PDEMakeComplexTrigger(1, {notWeak, PDEMakeBasicTrigger(b.f(u"Finish"_s), u"Satin"_s)});
+        QVERIFY(!either->isSet());
+        QVERIFY(b.pick(u"Sealing"_s, u"Strong"_s));
+        QVERIFY(notWeak->isSet() && either->isSet());
+        QVERIFY(b.pick(u"Sealing"_s, u"Weak"_s));
+        QVERIFY(!either->isSet());
+        QVERIFY(b.pick(u"Finish"_s, u"Satin"_s));
+        QVERIFY(either->isSet());
+        notWeak.reset(), either.reset();
 
-    void teardownStopsObservation()
-    {
-        Bench b;
         auto finish = b.f(u"Finish"_s);
+        QVERIFY(b.pick(u"Finish"_s, u"Matte"_s));
         int calls = 0;
         {
             auto complex = PDEMakeComplexTrigger(2, {PDEMakeBasicTrigger(finish, u"Satin"_s)});
-            QObject observer;
             complex->observeIsSet(&observer, [&](PDETriggerProtocol*) { ++calls; }, false);
             QVERIFY(b.pick(u"Finish"_s, u"Satin"_s));
             QCOMPARE(calls, 1);

@@ -9,9 +9,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QTest>
-#include <csignal>
 #include <cups/cups.h>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace {
@@ -126,22 +124,6 @@ private slots:
         QVERIFY(store().savedOptions(&saved, &error) && !toMap(saved).contains("EnterPassword"));
     }
 
-    // Deleting keeps the other presets, the queue's own options and the file's mode.
-    void replaceAndDelete()
-    {
-        PresetStore presets = store();
-        QString error;
-        QVERIFY2(presets.save("again", {{"note", "first"}}, &error), qPrintable(error));
-        QVERIFY2(presets.save("stays", {{"note", "here"}}, &error) && presets.remove("again", &error), qPrintable(error));
-        QCOMPARE(modeOf(PresetStore::lpoptionsPath()), 0600);
-        QVERIFY(!presets.names().contains("again") && presets.names().contains("stays"));
-        OptionList options;
-        QVERIFY(!presets.load("again", &options, &error) && error.contains("again"));
-        QCOMPARE(load("stays").value("note"), QStringLiteral("here"));
-        QVERIFY(presets.savedOptions(&options, &error));
-        QCOMPARE(toMap(options).value("Duplex"), QStringLiteral("DuplexNoTumble"));
-    }
-
     // Every line the store does not change stays (comments, unknown lines,
     // destinations this server does not know); "draft" replaces "Draft" afresh; the
     // queue's defaults and the default destination are read back by libcups.
@@ -170,23 +152,12 @@ private slots:
         cupsFreeDests(1, dest);
         OptionList saved;
         QVERIFY(presets.savedOptions(&saved) && toMap(saved).value("note") == QLatin1String("queue's"));
-    }
-
-    // A write that fails (the file size limit, as a full disk) is an error
-    // and leaves the file as it was.
-    void failedWriteKeepsFile()
-    {
-        const QByteArray before = fileBytes(PresetStore::lpoptionsPath());
-        struct rlimit old;
-        QVERIFY(::getrlimit(RLIMIT_FSIZE, &old) == 0);
-        ::signal(SIGXFSZ, SIG_IGN);
-        const struct rlimit small{rlim_t(before.size() / 2), old.rlim_max};
-        QVERIFY(::setrlimit(RLIMIT_FSIZE, &small) == 0);
-        QString error;
-        const bool saved = store().save("large", {{"note", QString(4000, QLatin1Char('x'))}}, &error);
-        ::setrlimit(RLIMIT_FSIZE, &old);
-        QVERIFY2(!saved && error.contains("cannot be written"), qPrintable(error));
-        QCOMPARE(fileBytes(PresetStore::lpoptionsPath()), before);
+        // Deleting keeps the other presets, the queue's own options and the file's mode.
+        QVERIFY2(presets.save("stays", {{"note", "here"}}, &error) && presets.remove("draft", &error), qPrintable(error));
+        QCOMPARE(modeOf(PresetStore::lpoptionsPath()), 0600);
+        QVERIFY(!presets.names().contains("draft") && !presets.load("draft", &saved, &error) && error.contains("draft"));
+        QCOMPARE(load("stays").value("note"), QStringLiteral("here"));
+        QVERIFY(presets.savedOptions(&saved) && toMap(saved).value("Duplex") == QLatin1String("None"));
     }
 
     // Bad input gets a clear error and leaves the file as it was.

@@ -345,68 +345,47 @@ private slots:
     void printerChooser_data()
     {
         QTest::addColumn<QStringList>("commands");  // run against the private cupsd first
+        QTest::addColumn<QString>("printer");       // as opened; empty: PanelSession picks
         QTest::addColumn<QString>("text");
-        QTest::newRow("idle") << QStringList{"cupsenable", "cupsaccept"} << QStringLiteral("panels \u2014 idle, Room 2");
-        QTest::newRow("stopped") << QStringList{"cupsdisable"} << QStringLiteral("panels \u2014 stopped, Room 2");
-        QTest::newRow("not accepting") << QStringList{"cupsenable", "cupsreject"}
+        QTest::newRow("idle, a preset") << QStringList{"cupsenable", "cupsaccept"} << "panels/Fast"
+                                        << QStringLiteral("panels \u2014 idle, Room 2");
+        QTest::newRow("stopped") << QStringList{"cupsdisable"} << QString() << QStringLiteral("panels \u2014 stopped, Room 2");
+        QTest::newRow("not accepting") << QStringList{"cupsenable", "cupsreject"} << QString()
                                        << QStringLiteral("panels \u2014 idle, not accepting jobs, Room 2");
     }
 
-    // Each queue shows its state and location, its make and model in the tooltip.
+    // Each queue shows its state and location, its make and model in the
+    // tooltip; the chooser and the presets show whichever printer the session opened.
     void printerChooser()
     {
         if (!m_cups.isRunning())
             QSKIP(qPrintable(QStringLiteral("needs a private cupsd: ") + m_cupsSkipped));
         QVERIFY(m_cups.runClient("lpadmin", {"-p", "panels", "-L", "Room 2"}));
+        QVERIFY(m_cups.runClient("lpoptions", {"-p", "panels/Fast", "-o", "copies=2"}));
         for (const QString& c : cell<QStringList>("commands"))
             QVERIFY(m_cups.runClient(c, {"panels"}));
-        openWindow();
+        m_window = std::make_unique<PrintDialogWindow>();
+        QString error;
+        QVERIFY2(m_window->openSession({{}, cell<QString>("printer"), {}, {}, {}}, &error), qPrintable(error));
         auto* printers = widget<QComboBox>("printerCombo");
         const int index = printers->findText(cell<QString>("text"));
         QVERIFY2(index >= 0, qPrintable(printers->itemText(0)));
         QVERIFY(printers->itemData(index, Qt::ToolTipRole).toString().contains(QStringLiteral("Make and model: Velmora C5500 MFP")));
-        QVERIFY(m_cups.runClient("cupsenable", {"panels"}) && m_cups.runClient("cupsaccept", {"panels"}));
-    }
-
-    void chooserShowsOpened_data()
-    {
-        QTest::addColumn<QString>("printer");  // as opened; empty: PanelSession picks
-        QTest::newRow("picked by the session") << QString();
-        QTest::newRow("preset") << "panels/Fast";
-    }
-
-    // The chooser and the presets show whichever printer the session opened.
-    void chooserShowsOpened()
-    {
-        QFETCH(QString, printer);
-        if (!m_cups.isRunning() && !printer.isEmpty())
-            QSKIP(qPrintable(QStringLiteral("needs a private cupsd: ") + m_cupsSkipped));
-        QVERIFY(printer.isEmpty() || m_cups.runClient("lpoptions", {"-p", "panels/Fast", "-o", "copies=2"}));
-        m_window = std::make_unique<PrintDialogWindow>();
-        QString error;
-        QVERIFY2(m_window->openSession({{}, printer, {}, {}, {}}, &error), qPrintable(error));
         const PMPrinter* opened = m_window->session()->host().pmPrinter();
-        const QString shown = widget<QComboBox>("printerCombo")->currentText();
-        if (opened->isQueue())
-            QVERIFY2(shown.startsWith(opened->name().section(QLatin1Char('/'), 0, 0) + QStringLiteral(" \u2014")), qPrintable(shown));
-        else
-            QCOMPARE(shown, QStringLiteral("Velmora C5500 MFP (sample PPD file)"));
+        QVERIFY2(printers->currentText().startsWith(opened->name().section(QLatin1Char('/'), 0, 0) + QStringLiteral(" \u2014")),
+                 qPrintable(printers->currentText()));
         QCOMPARE(widget<QComboBox>("presetCombo")->currentData().toString(), opened->name().section(QLatin1Char('/'), 1));
-        QVERIFY(printer.isEmpty() || m_cups.runClient("lpoptions", {"-x", "panels/Fast"}));
+        QVERIFY(m_cups.runClient("cupsenable", {"panels"}) && m_cups.runClient("cupsaccept", {"panels"})
+                && m_cups.runClient("lpoptions", {"-x", "panels/Fast"}));
     }
 
-    // A conflict resolved while the printer opened is told in the notice.
-    void openingNotice()
+    // A conflict resolved while the printer opened is told in the notice. An
+    // invalid page range keeps the dialog open, the field marked: nothing is
+    // printed. Which ranges are invalid is the host's rule (tst_host jobValues).
+    void openingNoticeAndInvalidPageRange()
     {
         openWindow({"PageSize=A4"});
         QVERIFY2(notice().contains(QStringLiteral("To resolve a conflict, 2-Sided Printing set to Off.")), qPrintable(notice()));
-    }
-
-    // An invalid page range keeps the dialog open, the field marked: nothing is
-    // printed. Which ranges are invalid is the host's rule (tst_host jobValues).
-    void invalidPageRange()
-    {
-        openWindow();
         QTest::mouseClick(widget<QRadioButton>("pageRangeRadio"), Qt::LeftButton);
         QTest::keyClicks(widget<QLineEdit>("pageRangeEdit"), QStringLiteral("5-3"));
         QTest::mouseClick(widget<QPushButton>("printButton"), Qt::LeftButton);

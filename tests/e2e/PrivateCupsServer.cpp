@@ -1,7 +1,9 @@
 #include "PrivateCupsServer.h"
+#include "TestSupport.h"
 
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QRegularExpression>
 #include <QStandardPaths>
 #include <QThread>
 #include <arpa/inet.h>
@@ -174,6 +176,17 @@ bool PrivateCupsServer::runClient(const QString& program, const QStringList& arg
     if (output)
         *output = QString::fromLocal8Bit(p.readAll());
     return finished && p.exitStatus() == QProcess::NormalExit && p.exitCode() == 0;
+}
+
+int PrivateCupsServer::print(const QStringList& arguments, QString* out, QString* err) const
+{
+    return TestSupport::runApp(QStringList{QStringLiteral("--server"), address()} + arguments, out, err, clientEnvironment());
+}
+
+int PrivateCupsServer::jobId(const QString& clientOutput)
+{
+    static const QRegularExpression re(QStringLiteral("request id is \\S+-(\\d+) "));
+    return re.match(clientOutput).captured(1).toInt();
 }
 
 bool PrivateCupsServer::addQueue(const QString& name, const QString& ppdPath, QString* error)

@@ -64,6 +64,10 @@ public:
     // A queue from a PPD file, enabled and accepting jobs, its device a
     // capture folder of its own.
     bool addQueue(const QString& name, const QString& ppdPath, QString* error);
+    // Runs print-panels as a client of this server (--server first).
+    int print(const QStringList& arguments, QString* out, QString* err) const;
+    // The job id in "request id is QUEUE-N (...)", as print-panels and lp say it; 0 without one.
+    static int jobId(const QString& clientOutput);
     // Runs a CUPS client program against this server ("-h ADDRESS" first).
     bool runClient(const QString& program, const QStringList& arguments, QString* output = nullptr) const;
     // Waits until the backend has finished job `id` of the queue.

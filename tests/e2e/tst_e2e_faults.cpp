@@ -164,8 +164,7 @@ private slots:
         if (dialog)
             job = clickPrint();
         else
-            status = TestSupport::runApp({"--printer", "q", "--server", m_server.address(), "--print", fifo}, &out, &err,
-                                         m_server.clientEnvironment());
+            status = m_server.print({"--printer", "q", "--print", fifo}, &out, &err);
         feeder.join();
         QString error;
         QVERIFY2(m_server.restart(&error), qPrintable(error));
