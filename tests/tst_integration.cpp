@@ -123,41 +123,31 @@ private slots:
 
     void jobOptions_data()
     {
-        QTest::addColumn<bool>("queue");  // the printer is a CUPS queue, else a PPD file is given
         QTest::addColumn<int>("copies");
         QTest::addColumn<bool>("collate");
         QTest::addColumn<bool>("refuse");           // the panel refuses to print
         QTest::addColumn<QStringList>("expected");  // copies, collate (empty for none)
-        QTest::newRow("one copy") << false << 1 << true << false << QStringList{"", ""};
-        QTest::newRow("three collated copies") << false << 3 << true << false << QStringList{"3", "true"};
-        QTest::newRow("two uncollated copies") << false << 2 << false << false << QStringList{"2", "false"};
-        QTest::newRow("a panel refuses") << false << 2 << false << true << QStringList();
-        QTest::newRow("two copies sent to a queue") << true << 2 << true << false << QStringList{"2", "true"};
+        QTest::newRow("one copy") << 1 << true << false << QStringList{"", ""};
+        QTest::newRow("three collated copies") << 3 << true << false << QStringList{"3", "true"};
+        QTest::newRow("two uncollated copies") << 2 << false << false << QStringList{"2", "false"};
+        QTest::newRow("a panel refuses") << 2 << false << true << QStringList();
     }
 
-    // The panels' checks and save, the options of the panels and of Qt's own
-    // tabs, the pages drawn once into a PDF file of the integration's own,
-    // and the job they make on a queue.
+    // On a PPD file: the panels' checks and save, the options of the panels
+    // and of Qt's own tabs, the pages drawn once into a PDF file of the
+    // integration's own, and no queue to send them to.
     void jobOptions()
     {
-        QFETCH(bool, queue);
-        QFETCH(int, copies);
         QFETCH(bool, refuse);
-        QFETCH(QStringList, expected);
-        if (queue && !m_cups.isRunning())
-            QSKIP(qPrintable(QStringLiteral("no private cupsd: ") + m_cupsSkipped));
         QPrinter printer;
-        if (queue)
-            printer.setPrinterName(QStringLiteral("panels"));
         QPrintDialog dialog(&printer);
-        if (!queue)
-            printer.setOutputFormat(QPrinter::PdfFormat);  // not a queue, whatever printer the dialog found
+        printer.setOutputFormat(QPrinter::PdfFormat);  // not a queue, whatever printer the dialog found
         PrintPanelsIntegration panels;
         auto a = panel(QStringLiteral("A"));
         if (refuse)
             a->printAnswer = false;
-        QVERIFY2(addPanels(panels, dialog, printer, queue ? QString() : TestSupport::samplePPD(), {a}), qPrintable(panels.errorString()));
-        printer.setCopyCount(copies);
+        QVERIFY2(addPanels(panels, dialog, printer, TestSupport::samplePPD(), {a}), qPrintable(panels.errorString()));
+        printer.setCopyCount(cell<int>("copies"));
         printer.setCollateCopies(cell<bool>("collate"));
         QCOMPARE(panels.applyToPrinter(&printer), !refuse);
         QCOMPARE(m_journal.contains(QStringLiteral("A:save")), !refuse);
@@ -168,30 +158,18 @@ private slots:
         QMap<QString, QString> options;
         for (const auto& [key, value] : panels.jobOptions())
             options.insert(key, value);
-        QCOMPARE((QStringList{options.value("copies"), options.value("collate")}), expected);
+        QTEST((QStringList{options.value("copies"), options.value("collate")}), "expected");
         QCOMPARE(options.value("PageSize") + options.value("Duplex"), QStringLiteral("LetterNone"));  // the sample's marks
         QVERIFY(printer.outputFormat() == QPrinter::PdfFormat && printer.outputFileName().endsWith(QStringLiteral(".pdf")));
         QCOMPARE(printer.copyCount(), 1);  // the copies are made by CUPS, not drawn again
         QPainter(&printer).drawText(100, 100, QStringLiteral("Hello from a Qt application"));
-        const int id = panels.submitJob(QStringLiteral("Integration report"));
-        if (!queue) {
-            // A PPD file alone has no queue to send it to.
-            QVERIFY2(id == 0 && panels.errorString().contains(QStringLiteral("CUPS queue")), qPrintable(panels.errorString()));
-            return;
-        }
-        PrivateCupsServer::CapturedJob job;
-        QVERIFY2(id > 0 && m_cups.waitForJob("panels", id, &job), qPrintable(panels.errorString() + m_cups.errorLog()));
-        QCOMPARE(job.title(), QStringLiteral("Integration report"));
-        QCOMPARE(job.copies(), copies);
-        QVERIFY(job.document.startsWith("%PDF-"));
-        // The panels' options and Qt's dialog's reach the printer's filters.
-        const QMap<QString, QString> got = job.parsedOptions();
-        QCOMPARE(got.value("PageSize") + got.value("Duplex") + got.value("collate"), QStringLiteral("LetterNone") + expected[1]);
+        QCOMPARE(panels.submitJob(QStringLiteral("Integration report")), 0);
+        QVERIFY2(panels.errorString().contains(QStringLiteral("CUPS queue")), qPrintable(panels.errorString()));
     }
 
     // Another printer chosen in Qt's own list: the panels are the new
-    // printer's, carrying the choices it offers and approves, and the job
-    // carries its options.
+    // printer's, carrying the choices it offers and approves; the job sent
+    // to the queue carries its options, Qt's copies and collation among them.
     void printerSwitch()
     {
         if (!m_cups.isRunning())
@@ -210,14 +188,17 @@ private slots:
         QCOMPARE(panels.queue(), QStringLiteral("mono"));
         QCOMPARE(optionTabs(dialog).mid(optionTabs(dialog).size() - panels.panelNames().size()), panels.panelNames());
         dialog.accept();  // Qt's dialog sets the printer chosen
+        printer.setCopyCount(2);
+        printer.setCollateCopies(true);
         QVERIFY2(panels.applyToPrinter(&printer), qPrintable(panels.errorString()));
         QPainter(&printer).drawText(100, 100, QStringLiteral("switched"));
-        const int id = panels.submitJob();
+        const int id = panels.submitJob(QStringLiteral("Integration report"));
         PrivateCupsServer::CapturedJob job;
         QVERIFY2(id > 0 && m_cups.waitForJob("mono", id, &job), qPrintable(panels.errorString() + m_cups.errorLog()));
+        QVERIFY(job.title() == QLatin1String("Integration report") && job.copies() == 2 && job.document.startsWith("%PDF-"));
         const QMap<QString, QString> got = job.parsedOptions();
-        QCOMPARE((QStringList{got.value("VELResolution"), got.value("Duplex"), got.value("note"), got.value("ColorModel", "absent")}),
-                 (QStringList{"1200dpi", "None", "kept", "absent"}));
+        QCOMPARE((QStringList{got.value("VELResolution"), got.value("Duplex"), got.value("note"), got.value("ColorModel", "absent"), got.value("collate")}),
+                 (QStringList{"1200dpi", "None", "kept", "absent", "true"}));
     }
 };
 
