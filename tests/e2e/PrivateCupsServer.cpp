@@ -118,10 +118,9 @@ bool PrivateCupsServer::start(QString* error)
                                         "LogLevel warn\nAccessLogLevel all\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
                                         "<Location />\n  Order allow,deny\n  Allow all\n</Location>\n"
                                         "<Location /admin>\n  Order allow,deny\n  Allow all\n</Location>\n"
-                                        "<Policy default>\n  JobPrivateAccess default\n  JobPrivateValues %2\n"
+                                        "<Policy default>\n  JobPrivateAccess default\n  JobPrivateValues none\n"
                                         "  <Limit All>\n    Order deny,allow\n  </Limit>\n</Policy>\n")
-                             .arg(m_port)
-                             .arg(m_privateValues);
+                             .arg(m_port);
     const auto rw = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
     if (!writeFile(path(QStringLiteral("bin/backend/capture")), backendScript, rwx | rx, error)
         || !writeFile(path(QStringLiteral("cups-files.conf")), files.toUtf8(), rw, error)
@@ -229,7 +228,7 @@ bool PrivateCupsServer::waitForJob(const QString& queue, int id, CapturedJob* jo
     }
 }
 
-QString PrivateCupsServer::jobAttribute(int jobId, const QString& name, const QString& user) const
+QString PrivateCupsServer::jobAttribute(int jobId, const QString& name) const
 {
     http_t* http = httpConnect2("127.0.0.1", m_port, nullptr, AF_INET, HTTP_ENCRYPTION_NEVER, 1, 10000, nullptr);
     if (!http)
@@ -237,8 +236,7 @@ QString PrivateCupsServer::jobAttribute(int jobId, const QString& name, const QS
     const QByteArray uri = QStringLiteral("ipp://127.0.0.1:%1/jobs/%2").arg(m_port).arg(jobId).toUtf8();
     ipp_t* request = ippNewRequest(IPP_OP_GET_JOB_ATTRIBUTES);
     ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_URI, "job-uri", nullptr, uri.constData());
-    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr,
-                 user.isEmpty() ? cupsUser() : user.toUtf8().constData());
+    ippAddString(request, IPP_TAG_OPERATION, IPP_TAG_NAME, "requesting-user-name", nullptr, cupsUser());
     ipp_t* response = cupsDoRequest(http, request, "/");
     QString value;
     if (ipp_attribute_t* a = ippFindAttribute(response, name.toUtf8().constData(), IPP_TAG_ZERO)) {

@@ -37,9 +37,6 @@ public:
     PrivateCupsServer(const PrivateCupsServer&) = delete;
     PrivateCupsServer& operator=(const PrivateCupsServer&) = delete;
 
-    // The job attributes only their owner may read (cupsd.conf's
-    // JobPrivateValues); "none" unless set before start().
-    void setJobPrivateValues(const QString& values) { m_privateValues = values; }
     // Whether a private cupsd can run here; *why says why not.
     static bool canRun(QString* why);
     // Starts the server and points this process's libcups at it and at the
@@ -73,8 +70,7 @@ public:
     // Waits until the backend has finished job `id` of the queue.
     bool waitForJob(const QString& queue, int id, CapturedJob* job, int timeoutMs = 20000) const;
     // An attribute of a job as the server reports it, as text (null when unknown).
-    // Asked as user `user` (this process's user when empty).
-    QString jobAttribute(int jobId, const QString& name, const QString& user = QString()) const;
+    QString jobAttribute(int jobId, const QString& name) const;
     QString errorLog() const;
     // Every request the server answered, one line each, oldest first.
     QStringList accessLog() const;
@@ -86,5 +82,4 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
     QProcess m_cupsd;
     quint16 m_port = 0;
-    QString m_privateValues = QStringLiteral("none");
 };

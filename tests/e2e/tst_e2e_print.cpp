@@ -272,28 +272,6 @@ private slots:
         QCOMPARE(got.value("ColorModel"), QStringLiteral("RGBA"));
         QVERIFY2(got.value("print-color-mode", "color") == QLatin1String("color"), qPrintable(job.options()));
     }
-
-    // With JobPrivateValues naming the password options, another user
-    // reading the job learns nothing of them; the backend still gets them.
-    void secretsAreTheOwnersAlone()
-    {
-        PrivateCupsServer server;
-        server.setJobPrivateValues(QStringLiteral("job-name job-originating-host-name job-originating-user-name phone "
-                                                  "EnterPassword ConfirmPassword AccountPassword ConfirmAcctPassword PINCode "
-                                                  "NewPIN ConfirmNewPIN HCSEnterPassword HCSConfirmPassword job-password"));
-        QString error, out, err;
-        QVERIFY2(server.start(&error) && server.addQueue("q", TestSupport::samplePPD(), &error), qPrintable(error));
-        const QString secret = QStringLiteral("Hid-3n-Pw");
-        QVERIFY2(server.print({"--printer", "q", "--print", writeDocument("s.txt", "s\n"), "-o", "EnterPassword=" + secret}, &out, &err) == 0,
-                 qPrintable(err));
-        const int id = PrivateCupsServer::jobId(out);
-        PrivateCupsServer::CapturedJob job;
-        QVERIFY2(server.waitForJob("q", id, &job), qPrintable(server.errorLog()));
-        QVERIFY(job.parsedOptions().value("EnterPassword") == secret);
-        QVERIFY(server.jobAttribute(id, "EnterPassword") == secret);  // its owner may read it
-        QVERIFY(!server.jobAttribute(id, "EnterPassword", "mallory").contains(secret));
-        QVERIFY(!server.jobAttribute(id, "job-name", "mallory").contains("s.txt"));
-    }
 };
 
 QTEST_MAIN(TestE2EPrint)
