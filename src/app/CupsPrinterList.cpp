@@ -146,3 +146,8 @@ CupsPrinterList CupsPrinterList::ask(ipp_t* request)
     ippDelete(response);
     return list;
 }
+
+QString CupsPrinterList::unreachableServer(const QString& server) const
+{
+    return m_answered ? QString() : PrintDialogHost::unreachableServer(server);
+}

@@ -31,6 +31,9 @@ public:
     // Whether the server answered; errorString() says why not (libcups' words).
     bool answered() const { return m_answered; }
     QString errorString() const { return m_error; }
+    // When the server gave no answer because it cannot be reached, the
+    // message that says so (PrintDialogHost::unreachableServer); else empty.
+    QString unreachableServer(const QString& server) const;
     const QList<Printer>& printers() const { return m_printers; }
     // A printer by name, compared as CUPS does (without regard to case), or null.
     const Printer* find(const QByteArray& name) const;

@@ -30,7 +30,7 @@ int HeadlessPrint::run(const CommandLine& cl)
         options.destinations = std::make_shared<const CupsDestList>(cl.session.server);
         printer = options.destinations->defaultDestination();
         if (printer.isEmpty()) {
-            const QString unreachable = options.destinations->printers().answered() ? QString() : PrintDialogHost::unreachableServer(cl.session.server);
+            const QString unreachable = options.destinations->printers().unreachableServer(cl.session.server);
             return failWith(ExitBadInput, unreachable.isEmpty() ? QStringLiteral("there is no printer to print to: CUPS has no queue (use --printer QUEUE)")
                                                                 : unreachable);
         }

@@ -26,7 +26,7 @@ std::unique_ptr<PrintDialogHost> openQueue(const QString& queue, const QString& 
         dests = std::make_shared<const CupsDestList>(CupsPrinterList::one(server, queue));
     const CupsPrinterList::Printer* printer = dests->printers().find(name);
     if (!printer) {
-        const QString unreachable = dests->printers().answered() ? QString() : PrintDialogHost::unreachableServer(server);
+        const QString unreachable = dests->printers().unreachableServer(server);
         *error = unreachable.isEmpty() ? QStringLiteral("printer %1: %2").arg(queue, dests->printers().errorString()) : unreachable;
         return nullptr;
     }
