@@ -119,6 +119,28 @@ private slots:
         QTest::newRow("overlap inch") << "overlap" << false << "1.5" << "1.00" << 100;
         QTest::newRow("overlap mm") << "overlap" << true << "26" << "25" << 25;
     }
+    // The leading number of a text, as fields and PPD limits are read.
+    void leadingNumbers_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("whole");
+        QTest::addColumn<double>("decimal");
+        QTest::newRow("plain") << "12" << 12 << 12.0;
+        QTest::newRow("spaces and sign") << "  -7 " << -7 << -7.0;
+        QTest::newRow("trailing words") << "8 characters" << 8 << 8.0;
+        QTest::newRow("fraction") << "0.75in" << 0 << 0.75;
+        QTest::newRow("point first") << "-.5" << 0 << -0.5;
+        QTest::newRow("point only") << "." << 0 << 0.0;
+        QTest::newRow("no number") << "abc" << 0 << 0.0;
+        QTest::newRow("above int") << "99999999999" << std::numeric_limits<int>::max() << 99999999999.0;
+        QTest::newRow("below int") << "-99999999999" << std::numeric_limits<int>::min() << -99999999999.0;
+        QTest::newRow("not ASCII digits") << "٣" << 0 << 0.0;
+    }
+    void leadingNumbers()
+    {
+        QTEST(MRFormatter::intValue(cell<QString>("text")), "whole");
+        QTEST(MRFormatter::doubleValue(cell<QString>("text")), "decimal");
+    }
     void fields()
     {
         QFETCH(QString, name);

@@ -134,7 +134,10 @@ void PrinterPresetBar::fillPrinters(const CupsDestList& dests)
     // The printers the bundle brings as samples, then the PPD file in use.
     if (m_session) {
         const QString printers = QDir(m_session->bundle().bundlePath()).filePath(QStringLiteral("printers"));
-        for (const QString& file : QDir(printers).entryList({QStringLiteral("*.ppd")}, QDir::Files, QDir::Name)) {
+        // Without name filters, which QDir turns into regular expressions.
+        for (const QString& file : QDir(printers).entryList(QDir::Files, QDir::Name)) {
+            if (!file.endsWith(QLatin1String(".ppd")))
+                continue;
             const QString nick = nickNameOf(QDir(printers).filePath(file));
             combo->addItem(tr("%1 (sample PPD file)").arg(nick.isEmpty() ? file : nick));
             combo->setItemData(combo->count() - 1, SampleEntry, KindRole);

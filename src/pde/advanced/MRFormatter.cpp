@@ -1,7 +1,13 @@
 #include "MRFormatter.h"
 
-#include <QRegularExpression>
 #include <limits>
+
+namespace {
+bool isAsciiDigit(QChar c)
+{
+    return c >= QLatin1Char('0') && c <= QLatin1Char('9');
+}
+}
 
 MRFormatter::MRFormatter(QObject* parent) : QValidator(parent) {}
 
@@ -12,24 +18,40 @@ QValidator::State MRFormatter::validate(QString& input, int&) const
 
 int MRFormatter::intValue(const QString& text)
 {
-    static const QRegularExpression number(QStringLiteral("^\\s*([+-]?)(\\d*)"));
-    const QRegularExpressionMatch m = number.match(text);
+    // The leading whole number, saturated to the range of int.
+    const QStringView s = QStringView(text).trimmed();
+    const bool negative = s.startsWith(QLatin1Char('-'));
+    qsizetype i = negative || s.startsWith(QLatin1Char('+')) ? 1 : 0;
     qint64 value = 0;
-    for (QChar c : m.captured(2)) {
-        value = value * 10 + c.digitValue();
+    for (; i < s.size() && isAsciiDigit(s.at(i)); ++i) {
+        value = value * 10 + s.at(i).digitValue();
         if (value > qint64(std::numeric_limits<int>::max()) + 1)
             break;
     }
-    if (m.captured(1) == QLatin1String("-"))
+    if (negative)
         value = -value;
     return int(qBound(qint64(std::numeric_limits<int>::min()), value, qint64(std::numeric_limits<int>::max())));
 }
 
 double MRFormatter::doubleValue(const QString& text)
 {
-    static const QRegularExpression number(QStringLiteral("^\\s*[+-]?(\\d+\\.?\\d*|\\.\\d+)"));
-    const QRegularExpressionMatch m = number.match(text);
-    return m.hasMatch() ? m.captured(0).trimmed().toDouble() : 0.0;
+    // The leading decimal number ("12", "12.", "12.5", ".5"), without exponent.
+    const QStringView s = QStringView(text).trimmed();
+    qsizetype i = s.startsWith(QLatin1Char('+')) || s.startsWith(QLatin1Char('-')) ? 1 : 0;
+    const qsizetype sign = i;
+    while (i < s.size() && isAsciiDigit(s.at(i)))
+        ++i;
+    const bool whole = i > sign;
+    if (i < s.size() && s.at(i) == QLatin1Char('.')) {
+        const qsizetype point = i++;
+        while (i < s.size() && isAsciiDigit(s.at(i)))
+            ++i;
+        if (!whole && i == point + 1)
+            return 0.0;
+    } else if (!whole) {
+        return 0.0;
+    }
+    return s.left(i).toDouble();
 }
 
 bool MRFormatter::onlyDigits(const QString& text, const QString& extra)

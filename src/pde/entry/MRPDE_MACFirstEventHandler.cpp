@@ -7,7 +7,6 @@
 #include "PDEPanel.h"
 #include "PDEPanelFactory.h"
 
-#include <QRegularExpression>
 #include <cups/ppd.h>
 
 static bool s_debug = false;
@@ -67,14 +66,11 @@ bool MRPDE_MACFirstEventHandler::ppdInstallsSeparateExtensions(ppd_file_t* ppd)
 {
     if (!ppd)
         return false;
-    static const QRegularExpression advanced(QRegularExpression::wildcardToRegularExpression(
-        QStringLiteral("*AdvancedOptionPDE*"), QRegularExpression::UnanchoredWildcardConversion));
-    static const QRegularExpression special(QRegularExpression::wildcardToRegularExpression(
-        QStringLiteral("*SpecialPagePDE*"), QRegularExpression::UnanchoredWildcardConversion));
+    // The extension paths match "*AdvancedOptionPDE*" or "*SpecialPagePDE*".
     for (ppd_attr_t* attr = ppdFindAttr(ppd, "APDialogExtension", nullptr); attr;
          attr = ppdFindNextAttr(ppd, "APDialogExtension", nullptr)) {
-        const QString value = QString::fromUtf8(attr->value ? attr->value : "");
-        if (advanced.match(value).hasMatch() || special.match(value).hasMatch())
+        const QByteArrayView value(attr->value ? attr->value : "");
+        if (value.contains("AdvancedOptionPDE") || value.contains("SpecialPagePDE"))
             return true;
     }
     return false;

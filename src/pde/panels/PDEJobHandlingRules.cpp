@@ -1,9 +1,8 @@
 #include "PDEJobHandlingRules.h"
 
+#include "MRFormatter.h"
 #include "MRPDE_MACChangeHandlerModel.h"
 #include "PDEStringExtension.h"
-
-#include <QRegularExpression>
 
 namespace {
 const QString kLettersAndDigits = QStringLiteral("ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz1234567890");
@@ -65,10 +64,7 @@ qint64 PDEJobHandlingRules::lengthAttribute(const QString& key, qint64 fallback)
         return fallback;
     // The leading integer of the text, as "8" or " 8 characters"; a limit
     // that is not a number, or not positive, limits nothing.
-    static const QRegularExpression leading(QStringLiteral("^\\s*([+-]?\\d{1,18})"));
-    const QRegularExpressionMatch m = leading.match(a->attributeValue());
-    const qint64 value = m.hasMatch() ? m.captured(1).toLongLong() : 0;
-    return value > 0 ? value : 0;
+    return qMax(0, MRFormatter::intValue(a->attributeValue()));
 }
 
 qint64 PDEJobHandlingRules::accountIDMaximum() const

@@ -125,6 +125,10 @@ QWidget* MRSpecialPagePDE::panelView()
     m_ui->setupUi(view);
     m_viewPDE = view;
     Ui::PageListPDE& u = *m_ui;
+    // The column titles are sized (with a bold font loaded for it) when the
+    // table is first shown, not for every dialog that never shows this panel.
+    u.tableUserSetting->horizontalHeader()->hide();
+    u.tableUserSetting->installEventFilter(this);
     u.tableUserSetting->setModel(m_model);
     u.tableUserSetting->setSelectionBehavior(QAbstractItemView::SelectRows);
     u.tableUserSetting->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -157,6 +161,15 @@ QWidget* MRSpecialPagePDE::panelView()
     initializeUI();
     _PDELog(this, QStringLiteral("panelView:=NSView(%@, %p)"), view->objectName(), PDEAddress(view));
     return view;
+}
+
+bool MRSpecialPagePDE::eventFilter(QObject* watched, QEvent* event)
+{
+    if (m_ui && watched == m_ui->tableUserSetting && event->type() == QEvent::Show) {
+        m_ui->tableUserSetting->removeEventFilter(this);
+        m_ui->tableUserSetting->horizontalHeader()->show();
+    }
+    return MRStandalonePDE::eventFilter(watched, event);
 }
 
 void MRSpecialPagePDE::initializeUI()

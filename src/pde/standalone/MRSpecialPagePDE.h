@@ -163,6 +163,7 @@ protected:
     QString panelNameKey() const override { return QString::fromLatin1(kSpecialPagePanelNameKey); }
     QString helpPage() const override { return QString::fromLatin1(kSpecialPageHelpPage); }
     QString localizationTable() const override { return QString::fromLatin1(kSpecialPagePDELocalizable); }
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     int markedIndex(const char* key) const;
