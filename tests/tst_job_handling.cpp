@@ -295,7 +295,10 @@ private slots:
         // Every password and PIN of the panel is kept out of logs, presets and option lists.
         for (const char* key : {"EnterPassword", "ConfirmPassword", "AccountPassword", "ConfirmAcctPassword", "NewPIN", "ConfirmNewPIN", "PINCode"})
             QVERIFY2(PDESecrets::isSecretKey(QString::fromLatin1(key)), key);
-        QVERIFY(!PDESecrets::isSecretKey(QStringLiteral("AccountID")));
+        for (const char* key : {"job-password", "Passwd", "UserPasscode", "pin_code", "SecurePin"})
+            QVERIFY2(PDESecrets::isSecretKey(QString::fromLatin1(key)), key);
+        for (const char* key : {"AccountID", "Pinch", "SpinSpeed", "PassThrough"})
+            QVERIFY2(!PDESecrets::isSecretKey(QString::fromLatin1(key)), key);
     }
 };
 

@@ -1,7 +1,5 @@
 #include "PDESecrets.h"
 
-#include <QRegularExpression>
-
 QString PDESecrets::loggable(const QString& key, const QString& value)
 {
     return isSecretKey(key) && !value.isEmpty() ? QStringLiteral("<hidden>") : value;
@@ -10,7 +8,10 @@ QString PDESecrets::loggable(const QString& key, const QString& value)
 bool PDESecrets::isSecretKey(const QString& key)
 {
     // Password and PIN options of the maker's PPDs and of IPP ("job-password").
-    static const QRegularExpression secret(QStringLiteral("pass(word|wd|code)|pin(code)?$|^pin[_-]?code"),
-                                           QRegularExpression::CaseInsensitiveOption);
-    return secret.match(key).hasMatch();
+    // Compared as text: a regular expression would be compiled in every run
+    // that prints an option list.
+    const QString k = key.toLower();
+    return k.contains(QLatin1String("password")) || k.contains(QLatin1String("passwd")) || k.contains(QLatin1String("passcode"))
+           || k.endsWith(QLatin1String("pin")) || k.endsWith(QLatin1String("pincode")) || k.startsWith(QLatin1String("pincode"))
+           || k.startsWith(QLatin1String("pin_code")) || k.startsWith(QLatin1String("pin-code"));
 }
