@@ -172,6 +172,13 @@ private slots:
         QCOMPARE(label->pixmap().size(), QImage(second).size());
         QCOMPARE(window.sizeHint(), before);
         QCOMPARE(label->minimumSize(), QSize(0, 0));
+        // An icon answers the picture's size before it is read, and draws it.
+        QVERIFY(PDELazyPicture::icon(u"/nonexistent.png"_s).isNull());
+        const QIcon icon = PDELazyPicture::icon(second);
+        const QImage picture(second);
+        QCOMPARE(icon.actualSize(QSize(1000, 1000)), picture.size());
+        QCOMPARE(icon.pixmap(picture.size()).toImage().convertToFormat(QImage::Format_ARGB32),
+                 picture.convertToFormat(QImage::Format_ARGB32));
     }
 };
 

@@ -3,11 +3,11 @@
 #include "MRAdvancedOptionPDE.h"
 #include "MRFontCatalog.h"
 #include "PDEBundle.h"
+#include "PDELazyPicture.h"
 #include "PDELog.h"
 #include "ui_AdvancedOptionPDE.h"
 
 #include <QFile>
-#include <QImageReader>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -91,11 +91,8 @@ void MRWatermarkController::createFontColorList()
     const std::shared_ptr<PDEBundle> bundle = AdvancedOptionPDEObject->pluginBundle();
     for (qsizetype i = 0; i < kColorKeys.size(); ++i) {
         const QString picture = bundle ? bundle->pathForResource(kColorPictures[i], QStringLiteral("png")) : QString();
-        // Given its size (from the file's header), the icon reads the swatch only when drawn.
-        QIcon icon;
-        if (!picture.isEmpty())
-            icon.addFile(picture, QImageReader(picture).size());
-        m_ui->fontColorButton->addItem(icon, localized(kColorKeys[i]), kColorPictures[i]);
+        // The swatch is read only when drawn.
+        m_ui->fontColorButton->addItem(PDELazyPicture::icon(picture), localized(kColorKeys[i]), kColorPictures[i]);
     }
 }
 

@@ -1,12 +1,24 @@
 #include "PDELazyPicture.h"
 
 #include <QEvent>
+#include <QFileInfo>
+#include <QIconEngine>
 #include <QImageReader>
 #include <QLabel>
 #include <QPixmap>
 
-PDELazyPicture::PDELazyPicture(QLabel* label, const QString& path, const QSize& room)
-    : QObject(label), m_label(label), m_path(path), m_ownMinimumSize(label->minimumSize())
+namespace {
+// Decodes the picture: in the format found for it, without probing.
+QPixmap readPicture(const QString& path, const QByteArray& format)
+{
+    QImageReader reader(path, format);
+    reader.setAutoDetectImageFormat(format.isEmpty());
+    return QPixmap::fromImageReader(&reader);
+}
+}
+
+PDELazyPicture::PDELazyPicture(QLabel* label, const QString& path, const QByteArray& format, const QSize& room)
+    : QObject(label), m_label(label), m_path(path), m_format(format), m_ownMinimumSize(label->minimumSize())
 {
     const QMargins m = label->contentsMargins();
     const int frame = 2 * label->frameWidth();
@@ -30,22 +42,85 @@ bool PDELazyPicture::set(QLabel* label, const QString& path)
         delete waiting;
     }
     label->clear();
-    QImageReader reader(path);
-    const QSize size = path.isEmpty() ? QSize() : reader.size();
+    if (path.isEmpty())
+        return false;
+    const QByteArray format = formatOf(path);
+    QImageReader reader(path, format);
+    reader.setAutoDetectImageFormat(format.isEmpty());
+    const QSize size = reader.size();
     if (!size.isValid() || !reader.canRead())
         return false;
     if (label->isVisible())
-        label->setPixmap(QPixmap(path));
+        label->setPixmap(readPicture(path, format));
     else
-        new PDELazyPicture(label, path, size);
+        new PDELazyPicture(label, path, format, size);
     return true;
+}
+
+// Answers sizes from the file's header; decodes the picture into a plain
+// pixmap icon, which does all the drawing, the first time it is drawn.
+class PDELazyIconEngine : public QIconEngine {
+public:
+    PDELazyIconEngine(const QString& path, const QByteArray& format, const QSize& size)
+        : m_path(path), m_format(format), m_size(size)
+    {
+    }
+    QIconEngine* clone() const override { return new PDELazyIconEngine(*this); }
+    QSize actualSize(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        if (!m_icon.isNull())
+            return m_icon.actualSize(size, mode, state);
+        // As a pixmap icon answers: the picture's size, scaled down to fit.
+        return m_size.width() > size.width() || m_size.height() > size.height() ? m_size.scaled(size, Qt::KeepAspectRatio) : m_size;
+    }
+    void paint(QPainter* painter, const QRect& rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        decoded().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return decoded().pixmap(size, mode, state);
+    }
+
+private:
+    const QIcon& decoded()
+    {
+        if (m_icon.isNull())
+            m_icon = QIcon(readPicture(m_path, m_format));
+        return m_icon;
+    }
+
+    QString m_path;
+    QByteArray m_format;
+    QSize m_size;
+    QIcon m_icon;
+};
+
+QIcon PDELazyPicture::icon(const QString& path)
+{
+    if (path.isEmpty())
+        return QIcon();
+    const QByteArray format = formatOf(path);
+    QImageReader reader(path, format);
+    reader.setAutoDetectImageFormat(format.isEmpty());
+    const QSize size = reader.size();
+    if (!size.isValid() || !reader.canRead())
+        return QIcon();
+    return QIcon(new PDELazyIconEngine(path, format, size));
+}
+
+QByteArray PDELazyPicture::formatOf(const QString& path)
+{
+    QImageReader reader(path, QFileInfo(path).suffix().toLower().toLatin1());
+    reader.setAutoDetectImageFormat(false);
+    return reader.canRead() ? reader.format() : QByteArray();
 }
 
 bool PDELazyPicture::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == m_label && event->type() == QEvent::Show) {
         release();
-        m_label->setPixmap(QPixmap(m_path));
+        m_label->setPixmap(readPicture(m_path, m_format));
         deleteLater();
     }
     return QObject::eventFilter(watched, event);

@@ -1,4 +1,6 @@
 #pragma once
+#include <QByteArray>
+#include <QIcon>
 #include <QObject>
 #include <QSize>
 #include <QString>
@@ -18,16 +20,25 @@ public:
     // Shows the picture at path in label. An empty path, or a file that is
     // not a readable picture, empties the label and returns false.
     static bool set(QLabel* label, const QString& path);
+    // An icon of the picture at path, decoded when first drawn (QIcon's own
+    // file icons probe every image plug-in at once); a null icon when the file
+    // is not a readable picture.
+    static QIcon icon(const QString& path);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    PDELazyPicture(QLabel* label, const QString& path, const QSize& room);
+    PDELazyPicture(QLabel* label, const QString& path, const QByteArray& format, const QSize& room);
+    // The format to read the file in: its suffix's when that reads it, so
+    // that Qt's image plug-ins (each a library) are not loaded to probe its
+    // content; empty when only probing tells.
+    static QByteArray formatOf(const QString& path);
     // Gives the label back the minimum size it had of its own.
     void release();
 
     QLabel* m_label;
     QString m_path;
+    QByteArray m_format;
     QSize m_ownMinimumSize;
 };
