@@ -7,6 +7,7 @@
 //   --forms  also the nine panels' forms, built and destroyed with no rule
 //            run, the least --describe must build to read its controls.
 #include "MRFontCatalog.h"
+#include "QueuePPDFloor.h"
 #include "ui_AdvancedOptionPDE.h"
 #include "ui_Finishing.h"
 #include "ui_GraphicsAndPaper.h"
@@ -18,13 +19,10 @@
 #include "ui_Security.h"
 
 #include <QApplication>
-#include <cups/cups.h>
-#include <cups/ppd.h>
 
-#include <cstdio>
 #include <cstring>
 #include <memory>
-#include <unistd.h>
+#include <vector>
 
 namespace {
 template <typename Form>
@@ -33,27 +31,6 @@ void build(std::vector<std::unique_ptr<QWidget>>& views)
     Form form;
     views.push_back(std::make_unique<QWidget>());
     form.setupUi(views.back().get());
-}
-
-bool openQueue(const char* queue)
-{
-    cups_dest_t* dest = cupsGetNamedDest(CUPS_HTTP_DEFAULT, queue, nullptr);
-    char path[1024] = "";
-    time_t modtime = 0;
-    if (!dest || cupsGetPPD3(CUPS_HTTP_DEFAULT, queue, &modtime, path, sizeof path) != HTTP_STATUS_OK) {
-        std::fprintf(stderr, "headless_bound: %s: %s\n", queue, cupsLastErrorString());
-        cupsFreeDests(dest ? 1 : 0, dest);
-        return false;
-    }
-    ppd_file_t* ppd = ppdOpenFile(path);
-    ::unlink(path);
-    if (ppd) {
-        ppdMarkDefaults(ppd);
-        cupsMarkOptions(ppd, dest->num_options, dest->options);
-        ppdClose(ppd);
-    }
-    cupsFreeDests(1, dest);
-    return ppd != nullptr;
 }
 }
 
@@ -77,7 +54,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "minimal");
     MRFontCatalog::releaseFontconfigAtExit();
     QApplication app(argc, argv);
-    if (!openQueue(queue))
+    if (!openAndMarkQueuePPD("headless_bound", queue))
         return 2;
     if (fonts) {
         const QString family = MRFontCatalog::resolvedFamily(QStringLiteral("Arial"));

@@ -42,13 +42,9 @@ bool PDELazyPicture::set(QLabel* label, const QString& path)
         delete waiting;
     }
     label->clear();
-    if (path.isEmpty())
-        return false;
-    const QByteArray format = formatOf(path);
-    QImageReader reader(path, format);
-    reader.setAutoDetectImageFormat(format.isEmpty());
-    const QSize size = reader.size();
-    if (!size.isValid() || !reader.canRead())
+    QByteArray format;
+    const QSize size = probe(path, &format);
+    if (!size.isValid())
         return false;
     if (label->isVisible())
         label->setPixmap(readPicture(path, format));
@@ -98,22 +94,24 @@ private:
 
 QIcon PDELazyPicture::icon(const QString& path)
 {
-    if (path.isEmpty())
-        return QIcon();
-    const QByteArray format = formatOf(path);
-    QImageReader reader(path, format);
-    reader.setAutoDetectImageFormat(format.isEmpty());
-    const QSize size = reader.size();
-    if (!size.isValid() || !reader.canRead())
-        return QIcon();
-    return QIcon(new PDELazyIconEngine(path, format, size));
+    QByteArray format;
+    const QSize size = probe(path, &format);
+    return size.isValid() ? QIcon(new PDELazyIconEngine(path, format, size)) : QIcon();
 }
 
-QByteArray PDELazyPicture::formatOf(const QString& path)
+QSize PDELazyPicture::probe(const QString& path, QByteArray* format)
 {
-    QImageReader reader(path, QFileInfo(path).suffix().toLower().toLatin1());
-    reader.setAutoDetectImageFormat(false);
-    return reader.canRead() ? reader.format() : QByteArray();
+    format->clear();
+    if (path.isEmpty())
+        return QSize();
+    QImageReader bySuffix(path, QFileInfo(path).suffix().toLower().toLatin1());
+    bySuffix.setAutoDetectImageFormat(false);
+    if (bySuffix.canRead()) {
+        *format = bySuffix.format();
+        return bySuffix.size();
+    }
+    QImageReader byContent(path);
+    return byContent.canRead() ? byContent.size() : QSize();
 }
 
 bool PDELazyPicture::eventFilter(QObject* watched, QEvent* event)

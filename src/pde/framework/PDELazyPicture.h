@@ -30,10 +30,11 @@ protected:
 
 private:
     PDELazyPicture(QLabel* label, const QString& path, const QByteArray& format, const QSize& room);
-    // The format to read the file in: its suffix's when that reads it, so
-    // that Qt's image plug-ins (each a library) are not loaded to probe its
-    // content; empty when only probing tells.
-    static QByteArray formatOf(const QString& path);
+    // The picture's size from the file's header (invalid when the file is
+    // not a readable picture) and the format to read it in: its suffix's when
+    // that reads it, so that Qt's image plug-ins (each a library) are not
+    // loaded to probe its content; empty when only probing tells.
+    static QSize probe(const QString& path, QByteArray* format);
     // Gives the label back the minimum size it had of its own.
     void release();
 
