@@ -132,6 +132,14 @@ int runApp(const QStringList& args, QString* out, QString* err, const QStringLis
 
 }
 
+QMap<QString, QString> TestSupport::optionMap(const PrintDialogHost::OptionList& options)
+{
+    QMap<QString, QString> out;
+    for (const auto& [key, value] : options)
+        out.insert(key, value);
+    return out;
+}
+
 QPixmap TestSupport::shownPixmap(QLabel* label)
 {
     for (QWidget* w = label; w->parentWidget(); w = w->parentWidget()) {

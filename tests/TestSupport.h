@@ -33,6 +33,8 @@ QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QStri
 // Runs print-panels; answers the exit status and fills stdout/stderr.
 // extraEnv: "NAME=value" sets, "-NAME" removes a variable.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
+// Options by key, the last value of a key kept.
+QMap<QString, QString> optionMap(const PrintDialogHost::OptionList& options);
 // A picture label's pixmap as the user sees it: the tabs that hold the label
 // brought to the front and its window shown (pictures load when shown).
 QPixmap shownPixmap(QLabel* label);

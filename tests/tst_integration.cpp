@@ -155,9 +155,7 @@ private slots:
             QVERIFY(printer.outputFileName().isEmpty() && !panels.errorString().isEmpty());
             return;
         }
-        QMap<QString, QString> options;
-        for (const auto& [key, value] : panels.jobOptions())
-            options.insert(key, value);
+        const QMap<QString, QString> options = TestSupport::optionMap(panels.jobOptions());
         QTEST((QStringList{options.value("copies"), options.value("collate")}), "expected");
         QCOMPARE(options.value("PageSize") + options.value("Duplex"), QStringLiteral("LetterNone"));  // the sample's marks
         QVERIFY(printer.outputFormat() == QPrinter::PdfFormat && printer.outputFileName().endsWith(QStringLiteral(".pdf")));

@@ -1,5 +1,5 @@
 // The option model on real PPD files (tests/fixtures/model-options.txt):
-// lazy features, installed-hardware constraints, features the PPD lacks,
+// installed-hardware constraints, features the PPD lacks,
 // approval through the host, and the round trip through the print settings.
 #include "MRPDEAttribute.h"
 #include "MRPDE_MACChangeHandlerModel.h"
@@ -52,22 +52,6 @@ private slots:
         QVERIFY(!m_ppd.isEmpty());
         m_bundle = PDEBundle::embedded();
         m_bundle->setLanguage(u"en"_s);
-    }
-
-    void lazyCreation()
-    {
-        auto h = host();
-        MRPDE_MACChangeHandlerModel model(m_bundle, h.get());
-        QVERIFY(model.features().isEmpty());
-        // A missing option is no feature and leaves no record.
-        QVERIFY(!model.featureWithKey(u"NoSuchOption"_s));
-        QVERIFY(model.features().isEmpty());
-        PDEFeaturePtr media = model.featureWithKey(u"MediaType"_s);
-        QVERIFY(media && model.featureWithKey(u"StapleLocation"_s));
-        QCOMPARE(model.featureWithKey(u"MediaType"_s), media);
-        QCOMPARE(model.features().size(), 2);
-        QCOMPARE(model.features().at(0), media);
-        QCOMPARE(media->defaultValue()->keyword(), u"Plain"_s);
     }
 
     void installableConstraints_data()

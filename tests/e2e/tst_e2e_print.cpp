@@ -90,9 +90,7 @@ private slots:
         QString error;
         auto session = PanelSession::open({{}, m_queue, m_server.address(), {}, optionStrings}, &error);
         QVERIFY2(session && session->prepareToPrint(&error), qPrintable(error));
-        QMap<QString, QString> expected;
-        for (const auto& [key, value] : session->host().jobOptions())
-            expected.insert(key, value);
+        QMap<QString, QString> expected = TestSupport::optionMap(session->host().jobOptions());
         for (auto it = sent.cbegin(); it != sent.cend(); ++it)
             QVERIFY2(expected.value(it.key()) == it.value(), qPrintable(it.key()));
 
