@@ -51,50 +51,11 @@ std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap&
 
 QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body)
 {
-    static const char header[] = R"PPD(*PPD-Adobe: "4.3"
-*FormatVersion: "4.3"
-*FileVersion: "1.0"
-*LanguageVersion: English
-*LanguageEncoding: ISOLatin1
-*PCFileName: "TEST.PPD"
-*Manufacturer: "Velmora"
-*Product: "(Velmora Test)"
-*ModelName: "Velmora Test"
-*ShortNickName: "Velmora Test"
-*NickName: "Velmora Test"
-*PSVersion: "(3010.000) 0"
-*LanguageLevel: "3"
-*ColorDevice: True
-*DefaultColorSpace: RGB
-*FileSystem: False
-*Throughput: "1"
-*LandscapeOrientation: Plus90
-*TTRasterizer: Type42
-*OpenUI *PageSize/Page Size: PickOne
-*OrderDependency: 10 AnySetup *PageSize
-*DefaultPageSize: Letter
-*PageSize Letter/Letter: "<</PageSize[612 792]>>setpagedevice"
-*PageSize A4/A4: "<</PageSize[595 842]>>setpagedevice"
-*CloseUI: *PageSize
-*OpenUI *PageRegion/Page Region: PickOne
-*OrderDependency: 10 AnySetup *PageRegion
-*DefaultPageRegion: Letter
-*PageRegion Letter/Letter: "<</PageSize[612 792]>>setpagedevice"
-*PageRegion A4/A4: "<</PageSize[595 842]>>setpagedevice"
-*CloseUI: *PageRegion
-*DefaultImageableArea: Letter
-*ImageableArea Letter/Letter: "18 36 594 756"
-*ImageableArea A4/A4: "18 36 577 806"
-*DefaultPaperDimension: Letter
-*PaperDimension Letter/Letter: "612 792"
-*PaperDimension A4/A4: "595 842"
-*DefaultFont: Courier
-*Font Courier: Standard "(002.004S)" Standard ROM
-)PPD";
+    QFile header(fixture(QStringLiteral("ppd-header.txt")));
     QFile f(dir.filePath(name));
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
+    if (!header.open(QIODevice::ReadOnly) || !f.open(QIODevice::WriteOnly | QIODevice::Truncate))
         return QString();
-    f.write(header);
+    f.write(header.readAll());
     f.write(body.toUtf8());
     f.write("\n");
     return f.fileName();

@@ -27,46 +27,6 @@ void click(QCheckBox* box)
     QTest::mouseClick(box, Qt::LeftButton, {}, QPoint(8, box->height() / 2));
 }
 
-const QString kColourPPD = QStringLiteral(R"(
-*OpenUI *ColorModel/Color Mode: PickOne
-*DefaultColorModel: CMYK
-*ColorModel CMYK/Color: ""
-*ColorModel Gray/Grayscale: ""
-*CloseUI: *ColorModel
-*OpenUI *HalftoneLPI/Halftone: PickOne
-*DefaultHalftoneLPI: Auto
-*HalftoneLPI Auto/Auto: ""
-*HalftoneLPI Fine/Fine: ""
-*CloseUI: *HalftoneLPI
-*OpenUI *BlackOptimization/Black: PickOne
-*DefaultBlackOptimization: Off
-*BlackOptimization Off/Off: ""
-*BlackOptimization On/On: ""
-*CloseUI: *BlackOptimization
-)");
-
-const QString kPaperPPD = QStringLiteral(R"(
-*OpenUI *MediaType/Paper Type: PickOne
-*DefaultMediaType: Plain
-*MediaType Plain/Plain: ""
-*MediaType Transparency/Transparency: ""
-*CloseUI: *MediaType
-*OpenUI *SeparatorsOption/Separators: PickOne
-*DefaultSeparatorsOption: Off
-*SeparatorsOption Off/Off: ""
-*SeparatorsOption Blank/Blank: ""
-*CloseUI: *SeparatorsOption
-*OpenUI *SeparatorsSource/Separator Source: PickOne
-*DefaultSeparatorsSource: Auto
-*SeparatorsSource Auto/Auto: ""
-*SeparatorsSource Tray1/Tray 1: ""
-*CloseUI: *SeparatorsSource
-*OpenUI *SkipBlankPages/Skip Blank Pages: Boolean
-*DefaultSkipBlankPages: False
-*SkipBlankPages True/Yes: ""
-*SkipBlankPages False/No: ""
-*CloseUI: *SkipBlankPages
-)");
 }
 
 class GraphicsPaperTest : public QObject {
@@ -85,7 +45,7 @@ private slots:
                                                    "Darken Text:", "Edge Enhancement:", "Fine Edge:"};
         QTest::newRow("monochrome") << TestSupport::samplePPD(QStringLiteral("velmora-m200")) << QStringList{"Quality", "Paper"}
                                     << QStringList{"Resolution:"};
-        QTest::newRow("colour model without RGBA") << TestSupport::writePPD(m_dir, QStringLiteral("c.ppd"), kColourPPD) << QStringList{}
+        QTest::newRow("colour model without RGBA") << TestSupport::writePPDFromFixture(m_dir, "c.ppd", "graphics-colour-no-rgba.txt") << QStringList{}
                                                    << QStringList{};
     }
 
@@ -193,7 +153,7 @@ private slots:
     void paperTabOnly()
     {
         auto full = Panel::open(TestSupport::samplePPD());
-        auto p = Panel::open(TestSupport::writePPD(m_dir, QStringLiteral("paper.ppd"), kPaperPPD));
+        auto p = Panel::open(TestSupport::writePPDFromFixture(m_dir, "paper.ppd", "graphics-paper-tab-only.txt"));
         QVERIFY(full && p);
         auto& u = *p->ui;
         QCOMPARE(tabNames(*p), QStringList{"Paper"});

@@ -211,20 +211,7 @@ private slots:
     void jobOptions()
     {
         QTemporaryDir dir;
-        const QString ppd = TestSupport::writePPD(dir, QStringLiteral("j.ppd"), QStringLiteral(R"(
-*OpenGroup: InstallableOptions/Installed Options
-*OpenUI *Option2/Duplex Unit: Boolean
-*DefaultOption2: True
-*Option2 True/Installed: ""
-*Option2 False/Not Installed: ""
-*CloseUI: *Option2
-*CloseGroup: InstallableOptions
-*OpenUI *Duplex/Two-Sided: PickOne
-*DefaultDuplex: None
-*Duplex None/Off: ""
-*Duplex DuplexNoTumble/Long Edge: ""
-*CloseUI: *Duplex
-)"));
+        const QString ppd = TestSupport::writePPDFromFixture(dir, QStringLiteral("j.ppd"), QStringLiteral("host-duplex-unit.txt"));
         auto host = TestSupport::openHost(ppd);
         QVERIFY(host);
         QString error;

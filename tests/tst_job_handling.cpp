@@ -34,25 +34,6 @@ const QString kIDAlert = QStringLiteral("Enter a valid account ID (up to 64 char
 const QString kPINAlert = QStringLiteral("You must enter a 4-32 digit PIN Code.");
 const QString kUser64 = QString(64, QLatin1Char('u'));
 
-// A disk-only printer whose disk allows Normal, Confidential and Delay.
-const QString kDiskPPD = QStringLiteral(R"(
-*JobSettingHDDOn: "1, 2,5"
-*OpenGroup: InstallableOptions/Installed Options
-*OpenUI *Option4/Hard Disk: Boolean
-*DefaultOption4: True
-*Option4 True/Installed: ""
-*Option4 False/Not Installed: ""
-*CloseUI: *Option4
-*CloseGroup: InstallableOptions
-*OpenUI *JobSetting/Print Mode: PickOne
-*DefaultJobSetting: Normal
-*JobSetting Normal/Normal: ""
-*JobSetting Confidential/Confidential: ""
-*JobSetting Store/Store: ""
-*JobSetting StoreNPrint/Store and Print: ""
-*JobSetting Delay/Delay: ""
-*CloseUI: *JobSetting
-)");
 }
 
 class JobHandlingTest : public QObject {
@@ -68,7 +49,7 @@ private slots:
         QTest::addColumn<QStringList>("selectable");
         QTest::newRow("disk installed") << c5500 << "" << QStringList{"Normal", "Confidential", "Store", "StoreNPrint", "Delay"};
         QTest::newRow("no disk, no memory rule") << c5500 << "Option4=False" << QStringList{};
-        QTest::newRow("disk list 1, 2,5") << TestSupport::writePPD(m_dir, "disk.ppd", kDiskPPD) << "" << QStringList{"Normal", "Confidential", "Delay"};
+        QTest::newRow("disk list 1, 2,5") << TestSupport::writePPDFromFixture(m_dir, "disk.ppd", "job-handling-disk-only.txt") << "" << QStringList{"Normal", "Confidential", "Delay"};
         QTest::newRow("enough memory") << m200 << "" << QStringList{"Normal", "Confidential", "Delay"};
         QTest::newRow("too little memory") << m200 << "InstalledMemory=256MB" << QStringList{};
     }

@@ -15,16 +15,6 @@
 #include <cups/cups.h>
 
 namespace {
-// A printer with a paper size that conflicts with long-edge duplex printing.
-const char* kFixtureBody = R"PPD(*OpenUI *Duplex/2-Sided Printing: PickOne
-*OrderDependency: 20 AnySetup *Duplex
-*DefaultDuplex: DuplexNoTumble
-*Duplex None/Off: "<</Duplex false>>setpagedevice"
-*Duplex DuplexNoTumble/Long Edge: "<</Duplex true/Tumble false>>setpagedevice"
-*CloseUI: *Duplex
-*UIConstraints: *PageSize A4 *Duplex DuplexNoTumble
-*UIConstraints: *Duplex DuplexNoTumble *PageSize A4
-)PPD";
 using Changes = QList<QPair<QString, QString>>;
 }
 
@@ -107,7 +97,7 @@ private slots:
         if (PrivateCupsServer::canRun(&m_cupsSkipped))
             QVERIFY2(m_cups.start(&m_cupsSkipped) && m_cups.addQueue("panels", TestSupport::samplePPD(), &m_cupsSkipped),
                      qPrintable(m_cupsSkipped));
-        m_ppd = TestSupport::writePPD(m_dir, QStringLiteral("fixture.ppd"), QString::fromLatin1(kFixtureBody));
+        m_ppd = TestSupport::writePPDFromFixture(m_dir, QStringLiteral("fixture.ppd"), QStringLiteral("window-a4-duplex-conflict.txt"));
     }
 
     void panelList_data()
