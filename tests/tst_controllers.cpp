@@ -163,9 +163,8 @@ private slots:
         auto* popUp = keys.isEmpty() ? nullptr : b.add<QComboBox>();
         auto* coat = b.add<QComboBox>();
         QVERIFY(b.show());
-        MRPDEControllerPtr c = b.bind<MRPDE_MACPopUpButtonController>(key, popUp);
-        if (box)
-            c = b.bind<MRPDE_MACCheckBoxController>(key, box);
+        MRPDEControllerPtr c = box ? MRPDEControllerPtr(b.bind<MRPDE_MACCheckBoxController>(key, box))
+                                   : b.bind<MRPDE_MACPopUpButtonController>(key, popUp);
         auto c2 = b.bind<MRPDE_MACPopUpButtonController>(u"Coating"_s, coat);
         auto shown = [&] { return box ? (box->isChecked() ? u"on"_s : u"off"_s) : popUp->currentText(); };
         QTEST(shown(), "before");

@@ -5,7 +5,6 @@
 #include "MRPDE_MACJobHandlingEH.h"
 #include "MRPDE_MACJobHandlingPDEController.h"
 #include "PDEAlerts.h"
-#include "PDEHelp.h"
 #include "PDESecrets.h"
 #include "PanelHarness.h"
 #include "ui_JAConfirmPopUpWindow.h"
@@ -268,11 +267,6 @@ private slots:
         QCOMPARE(summary.value(QStringLiteral("JobSetting")).toString(), QStringLiteral("Normal"));
         QVERIFY(!summary.contains(QStringLiteral("AccountPassword")));
         QVERIFY(!p->ui->confidentialViewEnterPasswordTextField->isEnabled());
-        QString opened;
-        PDEHelp::setOpener([&](const QString& path) { opened = path; return true; });
-        QVERIFY(!p->eh->shouldShowHelp());
-        PDEHelp::setOpener(nullptr);
-        QVERIFY(opened.endsWith(QStringLiteral("JobHandlingPDEHelp.html")));
         // Every password and PIN of the panel is kept out of logs, presets and option lists.
         for (const char* key : {"EnterPassword", "ConfirmPassword", "AccountPassword", "ConfirmAcctPassword", "NewPIN", "ConfirmNewPIN", "PINCode"})
             QVERIFY2(PDESecrets::isSecretKey(QString::fromLatin1(key)), key);

@@ -115,12 +115,8 @@ private slots:
 
     void customUserIdFeature()
     {
-        QTemporaryDir dir;
-        auto h = TestSupport::openHost(TestSupport::writePPD(dir, u"sr.ppd"_s, u"*OpenUI *VELSecureReleaseOption2/Secure Release: Boolean\n"
-                                                                               "*DefaultVELSecureReleaseOption2: Off\n"
-                                                                               "*VELSecureReleaseOption2 On/On: \"\"\n"
-                                                                               "*VELSecureReleaseOption2 Off/Off: \"\"\n"
-                                                                               "*CloseUI: *VELSecureReleaseOption2\n"_s));
+        // The sample printer has secure release and no user ID option of its own.
+        auto h = TestSupport::openHost(TestSupport::samplePPD(u"velmora-m200"_s));
         QVERIFY(h);
         MRPDE_MACChangeHandlerModel model(m_bundle, h.get());
         PDEFeaturePtr id = model.featureWithKey(u"PSSUSERID"_s);
