@@ -34,13 +34,16 @@ std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString&
     return host;
 }
 
+QString writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(bytes) == bytes.size() ? path : QString();
+}
+
 std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap& info)
 {
-    QFile f(dir.filePath(QStringLiteral("Info.json")));
-    if (!f.open(QIODevice::WriteOnly))
+    if (writeFile(dir.filePath(QStringLiteral("Info.json")), QJsonDocument(QJsonObject::fromVariantMap(info)).toJson()).isEmpty())
         return nullptr;
-    f.write(QJsonDocument(QJsonObject::fromVariantMap(info)).toJson());
-    f.close();
     // Resources and translations come from the built-in bundle.
     QDir(dir.path()).mkpath(QStringLiteral("translations"));
     for (const QString& lang : {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("ja")})
@@ -52,13 +55,7 @@ std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap&
 QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body)
 {
     QFile header(fixture(QStringLiteral("ppd-header.txt")));
-    QFile f(dir.filePath(name));
-    if (!header.open(QIODevice::ReadOnly) || !f.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return QString();
-    f.write(header.readAll());
-    f.write(body.toUtf8());
-    f.write("\n");
-    return f.fileName();
+    return header.open(QIODevice::ReadOnly) ? writeFile(dir.filePath(name), header.readAll() + body.toUtf8() + '\n') : QString();
 }
 
 QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QString& bodyFixture)

@@ -22,6 +22,8 @@ QString samplePPD(const QString& name = QStringLiteral("velmora-c5500"));
 // A real host on a PPD file with the -o options applied; null (and a
 // warning) when the PPD cannot be opened or the options are refused.
 std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString& options = {});
+// Writes bytes to a file; answers its path, empty when it cannot be written.
+QString writeFile(const QString& path, const QByteArray& bytes);
 // A bundle in a temporary folder with the given Info keys, sharing the
 // built-in bundle's other resources.
 std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap& info);

@@ -149,13 +149,10 @@ private slots:
         QFETCH(QString, content);
         QTemporaryDir dir;
         QString path = dir.filePath(QStringLiteral("x.ppd"));
-        if (content == QLatin1String("<dir>")) {
+        if (content == QLatin1String("<dir>"))
             QVERIFY(QDir().mkpath(path));
-        } else if (!content.isNull()) {
-            QFile f(path);
-            QVERIFY(f.open(QIODevice::WriteOnly));
-            f.write(content.toUtf8());
-        }
+        else if (!content.isNull())
+            QVERIFY(!TestSupport::writeFile(path, content.toUtf8()).isEmpty());
         QString error;
         QVERIFY(!PrintDialogHost::openPPDFile(path, &error));
         QVERIFY2(error.contains(cell<QString>("message")), qPrintable(error));
@@ -247,10 +244,7 @@ private slots:
         QCOMPARE(embedded->language(), QStringLiteral("en"));
 
         QString error;
-        QFile bad(dir.filePath(QStringLiteral("Info.json")));
-        QVERIFY(bad.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        bad.write("[1,2");
-        bad.close();
+        QVERIFY(!TestSupport::writeFile(dir.filePath(QStringLiteral("Info.json")), "[1,2").isEmpty());
         QVERIFY(!PDEBundle::open(dir.path(), &error));
         QVERIFY(error.contains(QStringLiteral("not a JSON object")));
     }

@@ -40,11 +40,7 @@ class TestPrinting : public QObject {
 private:
     QTemporaryDir m_bin;  // lp, and the documents
 
-    QString write(const QString& name, const QByteArray& bytes)
-    {
-        QFile f(m_bin.filePath(name));
-        return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() ? f.fileName() : QString();
-    }
+    QString write(const QString& name, const QByteArray& bytes) { return TestSupport::writeFile(m_bin.filePath(name), bytes); }
 
     // Runs the line with bash; the lp found first on PATH prints its
     // arguments, NUL-terminated. Answers them (empty when bash failed).

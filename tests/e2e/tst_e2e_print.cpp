@@ -29,8 +29,7 @@ private:
 
     QString writeDocument(const QString& name, const QByteArray& bytes)
     {
-        QFile f(m_docs.filePath(name));
-        return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size() ? f.fileName() : QString();
+        return TestSupport::writeFile(m_docs.filePath(name), bytes);
     }
 
     int print(const QStringList& args, QString* out, QString* err) { return m_server.print(QStringList{"--printer", m_queue} + args, out, err); }
