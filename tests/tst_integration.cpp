@@ -145,7 +145,7 @@ private slots:
         PrintPanelsIntegration panels;
         auto a = panel(QStringLiteral("A"));
         if (refuse)
-            a->printAnswer = false;
+            a->printCheck = [] { return false; };
         QVERIFY2(addPanels(panels, dialog, printer, TestSupport::samplePPD(), {a}), qPrintable(panels.errorString()));
         printer.setCopyCount(cell<int>("copies"));
         printer.setCollateCopies(cell<bool>("collate"));
