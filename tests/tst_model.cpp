@@ -94,7 +94,6 @@ private slots:
         QTest::newRow("saved text wins") << "USERID" << "alice" << "Alice Example" << "alice";
         QTest::newRow("no saved value: full name") << "USERID" << QString() << "Alice Example" << "Alice Example";
         QTest::newRow("non-ASCII full name") << "USERID" << QString() << u"Jürgen Groß"_s << "Unknown";
-        QTest::newRow("saved text with blanks and quotes") << "USERID" << "O'Brien \"Bob\"" << "x" << "O'Brien \"Bob\"";
         // Every choice ruled out by the hardware: the marked choice is kept as text.
         QTest::newRow("constrained-away option keeps its mark") << "StapleLocation" << QString() << "x" << "None";
     }

@@ -168,8 +168,7 @@ private slots:
         QTEST(written(o), "kept");
     }
 
-    // Poster, a cover page, folding and skipping blank pages suppress the
-    // list; booklet printing keeps only a front and a back cover.
+    // Poster, a cover page, folding and skipping blank pages suppress the list.
     void conflicts_data()
     {
         QTest::addColumn<QString>("options");
@@ -181,7 +180,6 @@ private slots:
         QTest::newRow("cover page") << "job-sheets=standard,none" << "" << 0;
         QTest::newRow("C-fold") << "FoldingOptions=CFolding" << "" << 0;
         QTest::newRow("skip blank pages") << "SkipBlankPages=True" << "" << 0;
-        QTest::newRow("booklet") << "VELBookletOption=Booklet" << "Cover+Front+BlankPreprinted+Tray1+Plain;Cover+Back+2SidedPrinted+Tray2+Thick" << 2;
     }
     void conflicts()
     {
@@ -192,6 +190,7 @@ private slots:
         QCOMPARE(o.panel->ui()->viewTable->isEnabled(), !suppressed);
     }
 
+    // Booklet printing keeps only a front and a back cover, at the ends.
     void booklet_data()
     {
         QTest::addColumn<QString>("value");

@@ -59,13 +59,12 @@ private:
     QStringList m_boxes;  // the texts of the message boxes shown, each closed at once
     QTimer m_closer;
 
-    void openWindow(const QString& queue, const QStringList& docs, const QString& options = QString())
+    void openWindow(const QString& queue, const QStringList& docs, const QString& options)
     {
         QString error;
         m_window.reset();  // the old window lets go of the alert handler first
         m_window = std::make_unique<PrintDialogWindow>();
-        const QStringList optionStrings = options.isEmpty() ? QStringList() : QStringList{options};
-        QVERIFY2(m_window->openSession({{}, queue, m_server.address(), {}, optionStrings}, &error), qPrintable(error));
+        QVERIFY2(m_window->openSession({{}, queue, m_server.address(), {}, {options}}, &error), qPrintable(error));
         m_window->setDocuments(docs);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
