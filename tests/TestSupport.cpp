@@ -90,6 +90,14 @@ int runApp(const QStringList& args, QString* out, QString* err, const QStringLis
 
 }
 
+QStringList TestSupport::tabTexts(const QTabWidget* tabs)
+{
+    QStringList out;
+    for (int i = 0; i < tabs->count(); ++i)
+        out << tabs->tabText(i).remove(QLatin1Char('&'));
+    return out;
+}
+
 QMap<QString, QString> TestSupport::optionMap(const PrintDialogHost::OptionList& options)
 {
     QMap<QString, QString> out;

@@ -8,6 +8,7 @@
 #include <QPixmap>
 #include <QSet>
 #include <QString>
+#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVariantMap>
@@ -35,6 +36,8 @@ QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QStri
 // Runs print-panels; answers the exit status and fills stdout/stderr.
 // extraEnv: "NAME=value" sets, "-NAME" removes a variable.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
+// The texts of a tab widget's tabs, without mnemonic marks.
+QStringList tabTexts(const QTabWidget* tabs);
 // Options by key, the last value of a key kept.
 QMap<QString, QString> optionMap(const PrintDialogHost::OptionList& options);
 // A picture label's pixmap as the user sees it: the tabs that hold the label

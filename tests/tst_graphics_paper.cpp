@@ -13,13 +13,6 @@
 
 namespace {
 using Panel = TestSupport::OpenedPanel<MRPDE_MACGraphicsPaperEH, MRPDE_MACGraphicsPaperController>;
-QStringList tabNames(const Panel& p)
-{
-    QStringList t;
-    for (int i = 0; i < p.ui->m_tabView->count(); ++i)
-        t << p.ui->m_tabView->tabText(i);
-    return t;
-}
 
 // Clicks a check box on its box, where a person clicks.
 void click(QCheckBox* box)
@@ -45,8 +38,8 @@ private slots:
                                                    "Darken Text:", "Edge Enhancement:", "Fine Edge:"};
         QTest::newRow("monochrome") << TestSupport::samplePPD(QStringLiteral("velmora-m200")) << QStringList{"Quality", "Paper"}
                                     << QStringList{"Resolution:"};
-        QTest::newRow("colour model without RGBA") << TestSupport::writePPDFromFixture(m_dir, "c.ppd", "graphics-colour-no-rgba.txt") << QStringList{}
-                                                   << QStringList{};
+        QTest::newRow("colour model without RGBA") << TestSupport::writePPDFromFixture(m_dir, "c.ppd", "graphics-colour-no-rgba.txt")
+                                                   << QStringList{} << QStringList{};
     }
 
     void tabsAndRows()
@@ -54,7 +47,7 @@ private slots:
         QFETCH(QStringList, tabs);
         auto p = Panel::open(cell<QString>("ppd"));
         QVERIFY(p);
-        QCOMPARE(tabNames(*p), tabs);
+        QCOMPARE(TestSupport::tabTexts(p->ui->m_tabView), tabs);
         const QJsonObject controls = PanelDescriber::describeControls(p->eh->panelView());
         // The rows close up: the first labels show, the rest are hidden.
         QStringList shown;
@@ -156,7 +149,7 @@ private slots:
         auto p = Panel::open(TestSupport::writePPDFromFixture(m_dir, "paper.ppd", "graphics-paper-tab-only.txt"));
         QVERIFY(full && p);
         auto& u = *p->ui;
-        QCOMPARE(tabNames(*p), QStringList{"Paper"});
+        QCOMPARE(TestSupport::tabTexts(p->ui->m_tabView), QStringList{"Paper"});
         QCOMPARE(full->controller->numberOfUnusedCheckBoxes(), 0);
         QCOMPARE(p->controller->numberOfUnusedCheckBoxes(), 2);
         QVERIFY(u.skipBlankPagesCheckBoxButton->isVisibleTo(u.tabViewItemPaper));
@@ -206,7 +199,7 @@ private slots:
                  reference->ui->reverseDuplexCheckBoxButton->x() + reference->ui->reverseDuplexCheckBoxButton->width());
         // The tab names come from the bundle in the user's language.
         if (language == QLatin1String("de"))
-            QCOMPARE(tabNames(*p), (QStringList{"Qualität", "Farbe", "Stufen", "Papier"}));
+            QCOMPARE(TestSupport::tabTexts(p->ui->m_tabView), (QStringList{"Qualität", "Farbe", "Stufen", "Papier"}));
     }
 
     void protocolAnswers()

@@ -25,8 +25,7 @@ QStringList optionTabs(QPrintDialog& dialog, QTabWidget** found = nullptr)
     for (QTabWidget* tabs : dialog.findChildren<QTabWidget*>()) {
         if (!tabs->count() || tabs->widget(tabs->count() - 1)->objectName() != QLatin1String("printPanelsTab"))
             continue;
-        for (int i = 0; i < tabs->count(); ++i)
-            out << tabs->tabText(i).remove(QLatin1Char('&'));
+        out << TestSupport::tabTexts(tabs);
         if (found)
             *found = tabs;
     }
