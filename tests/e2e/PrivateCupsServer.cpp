@@ -99,19 +99,10 @@ bool PrivateCupsServer::start(QString* error)
     for (const QString& d : QDir(QStringLiteral("/usr/lib/cups")).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
         if (!d.startsWith(QLatin1String("backend")))
             QFile::link(QStringLiteral("/usr/lib/cups/") + d, path(QStringLiteral("bin/") + d));
-    const QString files = QStringLiteral("ServerRoot %1/etc\nRequestRoot %1/spool\nTempDir %1/spool/tmp\n"
-                                         "CacheDir %1/cache\nStateDir %1/state\nServerBin %1/bin\n"
-                                         "ServerKeychain %1/etc/ssl\nPrintcap %1/etc/printcap\nAccessLog %1/log/access_log\n"
-                                         "ErrorLog %1/log/error_log\nPageLog %1/log/page_log\n"
-                                         "FileDevice Yes\nUser lp\nGroup lp\n")
-                              .arg(m_dir->path());
-    const QString conf = QStringLiteral("Listen 127.0.0.1:%1\nBrowsing No\nWebInterface No\nDefaultAuthType None\n"
-                                        "LogLevel warn\nAccessLogLevel all\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
-                                        "<Location />\n  Order allow,deny\n  Allow all\n</Location>\n"
-                                        "<Location /admin>\n  Order allow,deny\n  Allow all\n</Location>\n"
-                                        "<Policy default>\n  JobPrivateAccess default\n  JobPrivateValues none\n"
-                                        "  <Limit All>\n    Order deny,allow\n  </Limit>\n</Policy>\n")
-                             .arg(m_port);
+    // The configuration of tests/e2e, with this server's folder and port.
+    const QDir config(QStringLiteral(PDE_E2E_DIR));
+    const QString files = QString::fromUtf8(readAll(config.filePath(QStringLiteral("cups-files.conf")))).arg(m_dir->path());
+    const QString conf = QString::fromUtf8(readAll(config.filePath(QStringLiteral("cupsd.conf")))).arg(m_port);
     const auto rw = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
     if (!writeFile(path(QStringLiteral("bin/backend/capture")), backendScript, rwx | rx, error)
         || !writeFile(path(QStringLiteral("cups-files.conf")), files.toUtf8(), rw, error)
