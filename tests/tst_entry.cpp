@@ -227,11 +227,8 @@ private slots:
         QTest::newRow("colour MFP: all nine") << TestSupport::samplePPD() << generic + standalone;
         QFile sample(TestSupport::samplePPD());
         QVERIFY(sample.open(QIODevice::ReadOnly));
-        QByteArray text = sample.readAll();
-        text.replace("PDEs/VelmoraColorProfiles.plugin", "PDEs/AdvancedOptionPDE.plugin");
-        QFile withExtension(m_dir.filePath(QStringLiteral("extension.ppd")));
-        QVERIFY(withExtension.open(QIODevice::WriteOnly) && withExtension.write(text) == text.size());
-        QTest::newRow("maker's extension installed") << withExtension.fileName() << generic;
+        const QByteArray text = sample.readAll().replace("PDEs/VelmoraColorProfiles.plugin", "PDEs/AdvancedOptionPDE.plugin");
+        QTest::newRow("maker's extension installed") << TestSupport::writeFile(m_dir.filePath("extension.ppd"), text) << generic;
         // The generic panels are made whatever the PPD has; the others refuse.
         QTest::newRow("no options of any panel") << TestSupport::writePPD(m_dir, QStringLiteral("bare.ppd"), QString()) << generic;
     }
