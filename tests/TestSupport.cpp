@@ -23,6 +23,12 @@ QString samplePPD(const QString& name)
     return QDir(QStringLiteral(PDE_SOURCE_BUNDLE_DIR)).filePath(QStringLiteral("printers/") + name + QStringLiteral(".ppd"));
 }
 
+QString fixtureText(const QString& name)
+{
+    QFile f(fixture(name));
+    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
 std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString& options)
 {
     QString error;
@@ -60,8 +66,8 @@ QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body)
 
 QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QString& bodyFixture)
 {
-    QFile body(fixture(bodyFixture));
-    return body.open(QIODevice::ReadOnly) ? writePPD(dir, name, QString::fromUtf8(body.readAll())) : QString();
+    const QString body = fixtureText(bodyFixture);
+    return body.isNull() ? QString() : writePPD(dir, name, body);
 }
 
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv)

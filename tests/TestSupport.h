@@ -20,6 +20,8 @@ namespace TestSupport {
 // A fixture PPD by file name, or a sample printer from the bundle.
 QString fixture(const QString& name);
 QString samplePPD(const QString& name = QStringLiteral("velmora-c5500"));
+// A fixture file's text; null when it cannot be read.
+QString fixtureText(const QString& name);
 // A real host on a PPD file with the -o options applied; null (and a
 // warning) when the PPD cannot be opened or the options are refused.
 std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString& options = {});

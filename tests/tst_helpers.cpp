@@ -90,7 +90,6 @@ private slots:
             recordOf(advanced, &option("VELWatermarkOption")->choices[1]);
             QVERIFY(capture.lines().isEmpty());
         }
-        QCOMPARE(MRAdvancedPDEChoice::ppdEncoding(), 4);
     }
 
     void titles_data()

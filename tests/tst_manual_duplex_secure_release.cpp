@@ -11,25 +11,13 @@
 #include "ui_SecureReleasePDE.h"
 
 namespace {
-// Manual 2-sided printing without a duplex unit option, and the printer's own step pictures.
-const QString kNoUnit = QStringLiteral(R"(*OpenUI *VELManualDuplexOption/Manual 2-Sided Printing: PickOne
-*OrderDependency: 117 AnySetup *VELManualDuplexOption
-*DefaultVELManualDuplexOption: Off
-*VELManualDuplexOption Off/Off: ""
-*VELManualDuplexOption LongEdge/Long-Edge Binding: ""
-*VELManualDuplexOption ShortEdge/Short-Edge Binding: ""
-*CloseUI: *VELManualDuplexOption
-*VELManualDuplexImage1: "%1/images/itdrvM3.png"
-)");
-
 // A panel on a sample printer (or the "no unit" PPD) with job options.
 template <class Panel>
 Opened<Panel> open(const QString& printer, const QString& options = QString())
 {
     static QTemporaryDir dir;
-    return openPanel<Panel>(printer == "no unit" ? TestSupport::writePPD(dir, printer, kNoUnit.arg(PDE_SOURCE_BUNDLE_DIR))
-                                                 : TestSupport::samplePPD(printer),
-                            options);
+    const QString noUnit = TestSupport::fixtureText("manual-duplex-no-unit.txt").arg(PDE_SOURCE_BUNDLE_DIR);
+    return openPanel<Panel>(printer == "no unit" ? TestSupport::writePPD(dir, printer, noUnit) : TestSupport::samplePPD(printer), options);
 }
 
 template <class Panel>

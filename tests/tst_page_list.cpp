@@ -7,6 +7,7 @@
 #include "PanelHarness.h"
 #include "ui_PageListPDE.h"
 
+#include <QScopeGuard>
 #include <QStandardItemModel>
 #include <cups/ppd.h>
 
@@ -254,6 +255,7 @@ private slots:
         QFETCH(bool, shown);
         auto o = openSpecial();
         QString title;
+        const auto reset = qScopeGuard([] { PDEAlerts::setHandler(nullptr); });
         if (answer != -2)
             PDEAlerts::setHandler([&](const PDEAlerts::Alert& a) {
                 title = a.defaultButton + QLatin1Char('/') + a.alternateButton;
@@ -262,8 +264,8 @@ private slots:
         if (!shown)
             o.panel->shouldHide();
         QTEST(o.panel->shouldPrint(), "prints");
-        PDEAlerts::setHandler(nullptr);
         QCOMPARE(title, shown && answer != -2 ? QStringLiteral("Yes/No") : QString());
+        // A list that is not empty prints without asking (the "no" answer would refuse).
         o.panel->ui()->btnPageCoverFront->setChecked(true);
         o.panel->actionAdd();
         QVERIFY(o.panel->shouldPrint());
