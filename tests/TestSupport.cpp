@@ -40,6 +40,12 @@ std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString&
     return host;
 }
 
+QByteArray readFile(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
 QString writeFile(const QString& path, const QByteArray& bytes)
 {
     QFile f(path);

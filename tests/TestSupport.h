@@ -25,6 +25,8 @@ QString fixtureText(const QString& name);
 // A real host on a PPD file with the -o options applied; null (and a
 // warning) when the PPD cannot be opened or the options are refused.
 std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString& options = {});
+// A file's bytes; empty when it cannot be read.
+QByteArray readFile(const QString& path);
 // Writes bytes to a file; answers its path, empty when it cannot be written.
 QString writeFile(const QString& path, const QByteArray& bytes);
 // A bundle in a temporary folder with the given Info keys, sharing the

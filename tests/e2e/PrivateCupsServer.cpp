@@ -38,11 +38,6 @@ bool writeFile(const QString& path, const QByteArray& text, QFile::Permissions p
     return false;
 }
 
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 }
 
 QMap<QString, QString> PrivateCupsServer::CapturedJob::parsedOptions() const
@@ -101,8 +96,8 @@ bool PrivateCupsServer::start(QString* error)
             QFile::link(QStringLiteral("/usr/lib/cups/") + d, path(QStringLiteral("bin/") + d));
     // The configuration of tests/e2e, with this server's folder and port.
     const QDir config(QStringLiteral(PDE_E2E_DIR));
-    const QString files = QString::fromUtf8(readAll(config.filePath(QStringLiteral("cups-files.conf")))).arg(m_dir->path());
-    const QString conf = QString::fromUtf8(readAll(config.filePath(QStringLiteral("cupsd.conf")))).arg(m_port);
+    const QString files = QString::fromUtf8(TestSupport::readFile(config.filePath(QStringLiteral("cups-files.conf")))).arg(m_dir->path());
+    const QString conf = QString::fromUtf8(TestSupport::readFile(config.filePath(QStringLiteral("cupsd.conf")))).arg(m_port);
     const auto rw = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
     if (!writeFile(path(QStringLiteral("bin/backend/capture")), backendScript, rwx | rx, error)
         || !writeFile(path(QStringLiteral("cups-files.conf")), files.toUtf8(), rw, error)
@@ -196,9 +191,9 @@ bool PrivateCupsServer::waitForJob(const QString& queue, int id, CapturedJob* jo
         QThread::msleep(25);
     }
     const QString base = path(QStringLiteral("capture/%1/job-%2").arg(queue).arg(id));
-    QByteArray argv = readAll(base + QStringLiteral(".argv"));
+    QByteArray argv = TestSupport::readFile(base + QStringLiteral(".argv"));
     argv.chop(1);  // the last NUL
-    *job = CapturedJob{id, {}, readAll(base + QStringLiteral(".doc")), {}};
+    *job = CapturedJob{id, {}, TestSupport::readFile(base + QStringLiteral(".doc")), {}};
     for (const QByteArray& a : argv.split('\0'))
         job->argv << QString::fromUtf8(a);
     // The server's spool keeps each document of the job as dJOBID-NNN.
@@ -206,7 +201,7 @@ bool PrivateCupsServer::waitForJob(const QString& queue, int id, CapturedJob* jo
         const QString f = path(QStringLiteral("spool/d%1-%2").arg(id, 5, 10, QLatin1Char('0')).arg(n, 3, 10, QLatin1Char('0')));
         if (!QFileInfo::exists(f))
             return QFileInfo::exists(base + QStringLiteral(".done"));
-        job->spooledDocuments << readAll(f);
+        job->spooledDocuments << TestSupport::readFile(f);
     }
 }
 
@@ -233,10 +228,10 @@ QString PrivateCupsServer::jobAttribute(int jobId, const QString& name) const
 
 QString PrivateCupsServer::errorLog() const
 {
-    return QString::fromUtf8(readAll(path(QStringLiteral("log/error_log"))));
+    return QString::fromUtf8(TestSupport::readFile(path(QStringLiteral("log/error_log"))));
 }
 
 QStringList PrivateCupsServer::accessLog() const
 {
-    return QString::fromUtf8(readAll(path(QStringLiteral("log/access_log")))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(TestSupport::readFile(path(QStringLiteral("log/access_log")))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

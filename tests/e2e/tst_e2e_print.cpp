@@ -46,9 +46,7 @@ private slots:
         QString why;
         if (!PrivateCupsServer::canRun(&why))
             QSKIP(qPrintable(QStringLiteral("end-to-end printing skipped: ") + why));
-        QString error;
-        QVERIFY2(m_server.start(&error), qPrintable(error));
-        QVERIFY2(m_server.addQueue(m_queue, TestSupport::samplePPD(), &error), qPrintable(error));
+        QVERIFY2(m_server.start(&why) && m_server.addQueue(m_queue, TestSupport::samplePPD(), &why), qPrintable(why));
     }
 
     void cleanupTestCase()
