@@ -79,8 +79,7 @@ private slots:
             info.insert(QStringLiteral("DEBUG"), debug);
         QVERIFY(TestSupport::bundleWithInfo(dir, info));
         QString out, err;
-        const int rc = TestSupport::runApp({"--bundle", dir.path(), "--describe"}, &out, &err, {"PRINT_PANELS_LOG_STDERR=1"});
-        QCOMPARE(rc, 0);
+        QCOMPARE(TestSupport::runApp({"--bundle", dir.path(), "--describe"}, &out, &err, {"PRINT_PANELS_LOG_STDERR=1"}), 0);
         // The sample printer asks for colour profiles in a folder this machine does not have.
         QCOMPARE(err.contains(QStringLiteral("PDE: ChangeHandlerModel(model): makeCustomFeatures: UCS Path is not present in system.")),
                  logs);
@@ -143,9 +142,7 @@ private slots:
                 QVERIFY2(out.startsWith(message), qPrintable(out));
                 return;
             }
-            const QJsonDocument doc = QJsonDocument::fromJson(out.toUtf8());
-            QVERIFY(doc.isObject());
-            QVERIFY(doc.object().value(QStringLiteral("panels")).isArray());
+            QVERIFY(QJsonDocument::fromJson(out.toUtf8()).object().value(QStringLiteral("panels")).isArray());
             return;
         }
         QVERIFY(out.isEmpty());
