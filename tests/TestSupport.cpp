@@ -66,8 +66,8 @@ std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap&
 
 QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body)
 {
-    QFile header(fixture(QStringLiteral("ppd-header.txt")));
-    return header.open(QIODevice::ReadOnly) ? writeFile(dir.filePath(name), header.readAll() + body.toUtf8() + '\n') : QString();
+    const QString header = fixtureText(QStringLiteral("ppd-header.txt"));
+    return header.isNull() ? QString() : writeFile(dir.filePath(name), (header + body + QLatin1Char('\n')).toUtf8());
 }
 
 QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QString& bodyFixture)

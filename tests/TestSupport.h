@@ -8,13 +8,13 @@
 #include <QPixmap>
 #include <QSet>
 #include <QString>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QVariantMap>
 #include <memory>
 
 class PDEBundle;
+class QTabWidget;
 
 namespace TestSupport {
 // A fixture PPD by file name, or a sample printer from the bundle.
