@@ -14,13 +14,7 @@ template <class P>
 struct Opened {
     std::unique_ptr<PrintDialogHost> host;
     std::shared_ptr<P> panel;
-    QString marked(const QString& key) const
-    {
-        for (const auto& [k, v] : host->jobOptions())
-            if (k == key)
-                return v;
-        return QString();
-    }
+    QString marked(const QString& key) const { return TestSupport::optionMap(host->jobOptions()).value(key); }
 };
 template <class P, class F = void (*)(P&)>
 Opened<P> openPanel(const QString& ppd, const QString& options = {}, F setUp = [](P&) {})

@@ -6,7 +6,6 @@
 #include <QPair>
 #include <functional>
 #include <memory>
-#include <optional>
 
 // A panel of the tests' own, for dialogs whose behaviour does not depend on
 // which panels the plug-in offers: a real view (in a parent of the panel's,
@@ -27,8 +26,8 @@ public:
     QWidget* viewParent() const { return m_viewParent.get(); }  // where the view belongs when not shown
     bool willShow() override { return note("willShow"); }
     bool shouldHide() override { return note("shouldHide") && allowHide; }
-    bool respondsToShouldPrint() const override { return printAnswer.has_value() || printCheck; }
-    bool shouldPrint() override { return note("shouldPrint") && (printCheck ? printCheck() : printAnswer.value_or(true)); }
+    bool respondsToShouldPrint() const override { return bool(printCheck); }
+    bool shouldPrint() override { return note("shouldPrint") && (!printCheck || printCheck()); }
     QVariantMap summaryInfo() override { return summary; }
     QStringList supportedPPDOptionKeys() override { return {}; }
     bool restoreValuesAndReturnError(QString*) override { return note("restore"); }
@@ -42,8 +41,7 @@ public:
     bool shouldShowHelp() override { return note("help"); }
 
     bool allowHide = true;            // shouldHide's answer
-    std::optional<bool> printAnswer;  // shouldPrint's answer; none: the panel has no print checks
-    std::function<bool()> printCheck; // else shouldPrint's own checks
+    std::function<bool()> printCheck; // shouldPrint's own checks; none: the panel has no print checks
     QVariantMap summary;              // summaryInfo's answer
     QList<QPair<QString, QString>> changesReceived;
     std::function<void(const QString&, const QString&)> forward;  // e.g. to a model, as a panel hands changes on

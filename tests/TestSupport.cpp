@@ -23,6 +23,12 @@ QString samplePPD(const QString& name)
     return QDir(QStringLiteral(PDE_SOURCE_BUNDLE_DIR)).filePath(QStringLiteral("printers/") + name + QStringLiteral(".ppd"));
 }
 
+QString fixtureText(const QString& name)
+{
+    QFile f(fixture(name));
+    return f.open(QIODevice::ReadOnly) ? QString::fromUtf8(f.readAll()) : QString();
+}
+
 std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString& options)
 {
     QString error;
@@ -34,13 +40,22 @@ std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString&
     return host;
 }
 
+QByteArray readFile(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+QString writeFile(const QString& path, const QByteArray& bytes)
+{
+    QFile f(path);
+    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(bytes) == bytes.size() ? path : QString();
+}
+
 std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap& info)
 {
-    QFile f(dir.filePath(QStringLiteral("Info.json")));
-    if (!f.open(QIODevice::WriteOnly))
+    if (writeFile(dir.filePath(QStringLiteral("Info.json")), QJsonDocument(QJsonObject::fromVariantMap(info)).toJson()).isEmpty())
         return nullptr;
-    f.write(QJsonDocument(QJsonObject::fromVariantMap(info)).toJson());
-    f.close();
     // Resources and translations come from the built-in bundle.
     QDir(dir.path()).mkpath(QStringLiteral("translations"));
     for (const QString& lang : {QStringLiteral("en"), QStringLiteral("de"), QStringLiteral("fr"), QStringLiteral("ja")})
@@ -51,59 +66,14 @@ std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap&
 
 QString writePPD(QTemporaryDir& dir, const QString& name, const QString& body)
 {
-    static const char header[] = R"PPD(*PPD-Adobe: "4.3"
-*FormatVersion: "4.3"
-*FileVersion: "1.0"
-*LanguageVersion: English
-*LanguageEncoding: ISOLatin1
-*PCFileName: "TEST.PPD"
-*Manufacturer: "Velmora"
-*Product: "(Velmora Test)"
-*ModelName: "Velmora Test"
-*ShortNickName: "Velmora Test"
-*NickName: "Velmora Test"
-*PSVersion: "(3010.000) 0"
-*LanguageLevel: "3"
-*ColorDevice: True
-*DefaultColorSpace: RGB
-*FileSystem: False
-*Throughput: "1"
-*LandscapeOrientation: Plus90
-*TTRasterizer: Type42
-*OpenUI *PageSize/Page Size: PickOne
-*OrderDependency: 10 AnySetup *PageSize
-*DefaultPageSize: Letter
-*PageSize Letter/Letter: "<</PageSize[612 792]>>setpagedevice"
-*PageSize A4/A4: "<</PageSize[595 842]>>setpagedevice"
-*CloseUI: *PageSize
-*OpenUI *PageRegion/Page Region: PickOne
-*OrderDependency: 10 AnySetup *PageRegion
-*DefaultPageRegion: Letter
-*PageRegion Letter/Letter: "<</PageSize[612 792]>>setpagedevice"
-*PageRegion A4/A4: "<</PageSize[595 842]>>setpagedevice"
-*CloseUI: *PageRegion
-*DefaultImageableArea: Letter
-*ImageableArea Letter/Letter: "18 36 594 756"
-*ImageableArea A4/A4: "18 36 577 806"
-*DefaultPaperDimension: Letter
-*PaperDimension Letter/Letter: "612 792"
-*PaperDimension A4/A4: "595 842"
-*DefaultFont: Courier
-*Font Courier: Standard "(002.004S)" Standard ROM
-)PPD";
-    QFile f(dir.filePath(name));
-    if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        return QString();
-    f.write(header);
-    f.write(body.toUtf8());
-    f.write("\n");
-    return f.fileName();
+    const QString header = fixtureText(QStringLiteral("ppd-header.txt"));
+    return header.isNull() ? QString() : writeFile(dir.filePath(name), (header + body + QLatin1Char('\n')).toUtf8());
 }
 
 QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QString& bodyFixture)
 {
-    QFile body(fixture(bodyFixture));
-    return body.open(QIODevice::ReadOnly) ? writePPD(dir, name, QString::fromUtf8(body.readAll())) : QString();
+    const QString body = fixtureText(bodyFixture);
+    return body.isNull() ? QString() : writePPD(dir, name, body);
 }
 
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv)
@@ -130,6 +100,22 @@ int runApp(const QStringList& args, QString* out, QString* err, const QStringLis
     return p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
 }
 
+}
+
+QStringList TestSupport::tabTexts(const QTabWidget* tabs)
+{
+    QStringList out;
+    for (int i = 0; i < tabs->count(); ++i)
+        out << tabs->tabText(i).remove(QLatin1Char('&'));
+    return out;
+}
+
+QMap<QString, QString> TestSupport::optionMap(const PrintDialogHost::OptionList& options)
+{
+    QMap<QString, QString> out;
+    for (const auto& [key, value] : options)
+        out.insert(key, value);
+    return out;
 }
 
 QPixmap TestSupport::shownPixmap(QLabel* label)

@@ -14,14 +14,21 @@
 #include <memory>
 
 class PDEBundle;
+class QTabWidget;
 
 namespace TestSupport {
 // A fixture PPD by file name, or a sample printer from the bundle.
 QString fixture(const QString& name);
 QString samplePPD(const QString& name = QStringLiteral("velmora-c5500"));
+// A fixture file's text; null when it cannot be read.
+QString fixtureText(const QString& name);
 // A real host on a PPD file with the -o options applied; null (and a
 // warning) when the PPD cannot be opened or the options are refused.
 std::unique_ptr<PrintDialogHost> openHost(const QString& ppdPath, const QString& options = {});
+// A file's bytes; empty when it cannot be read.
+QByteArray readFile(const QString& path);
+// Writes bytes to a file; answers its path, empty when it cannot be written.
+QString writeFile(const QString& path, const QByteArray& bytes);
 // A bundle in a temporary folder with the given Info keys, sharing the
 // built-in bundle's other resources.
 std::shared_ptr<PDEBundle> bundleWithInfo(QTemporaryDir& dir, const QVariantMap& info);
@@ -33,6 +40,10 @@ QString writePPDFromFixture(QTemporaryDir& dir, const QString& name, const QStri
 // Runs print-panels; answers the exit status and fills stdout/stderr.
 // extraEnv: "NAME=value" sets, "-NAME" removes a variable.
 int runApp(const QStringList& args, QString* out, QString* err, const QStringList& extraEnv = {});
+// The texts of a tab widget's tabs, without mnemonic marks.
+QStringList tabTexts(const QTabWidget* tabs);
+// Options by key, the last value of a key kept.
+QMap<QString, QString> optionMap(const PrintDialogHost::OptionList& options);
 // A picture label's pixmap as the user sees it: the tabs that hold the label
 // brought to the front and its window shown (pictures load when shown).
 QPixmap shownPixmap(QLabel* label);

@@ -163,9 +163,8 @@ private slots:
         auto* popUp = keys.isEmpty() ? nullptr : b.add<QComboBox>();
         auto* coat = b.add<QComboBox>();
         QVERIFY(b.show());
-        MRPDEControllerPtr c = b.bind<MRPDE_MACPopUpButtonController>(key, popUp);
-        if (box)
-            c = b.bind<MRPDE_MACCheckBoxController>(key, box);
+        MRPDEControllerPtr c = box ? MRPDEControllerPtr(b.bind<MRPDE_MACCheckBoxController>(key, box))
+                                   : b.bind<MRPDE_MACPopUpButtonController>(key, popUp);
         auto c2 = b.bind<MRPDE_MACPopUpButtonController>(u"Coating"_s, coat);
         auto shown = [&] { return box ? (box->isChecked() ? u"on"_s : u"off"_s) : popUp->currentText(); };
         QTEST(shown(), "before");
@@ -501,9 +500,8 @@ private slots:
         b.set(u"PrintAt"_s, u"03/04/2031//05:06"_s);
         // The stepper's arrows and the picker's inner field are no controls; a
         // secret shows only as its length.
-        QFile expected(TestSupport::fixture(u"described_panel.json"_s));
-        QVERIFY(expected.open(QIODevice::ReadOnly));
-        QCOMPARE(PanelDescriber::describeControls(&b.panel), QJsonDocument::fromJson(expected.readAll()).object());
+        const QJsonObject expected = QJsonDocument::fromJson(TestSupport::fixtureText(u"described_panel.json"_s).toUtf8()).object();
+        QCOMPARE(PanelDescriber::describeControls(&b.panel), expected);
     }
 
     // Triggers over the fixture's features: evaluation on registration,

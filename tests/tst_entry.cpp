@@ -79,8 +79,7 @@ private slots:
             info.insert(QStringLiteral("DEBUG"), debug);
         QVERIFY(TestSupport::bundleWithInfo(dir, info));
         QString out, err;
-        const int rc = TestSupport::runApp({"--bundle", dir.path(), "--describe"}, &out, &err, {"PRINT_PANELS_LOG_STDERR=1"});
-        QCOMPARE(rc, 0);
+        QCOMPARE(TestSupport::runApp({"--bundle", dir.path(), "--describe"}, &out, &err, {"PRINT_PANELS_LOG_STDERR=1"}), 0);
         // The sample printer asks for colour profiles in a folder this machine does not have.
         QCOMPARE(err.contains(QStringLiteral("PDE: ChangeHandlerModel(model): makeCustomFeatures: UCS Path is not present in system.")),
                  logs);
@@ -143,9 +142,7 @@ private slots:
                 QVERIFY2(out.startsWith(message), qPrintable(out));
                 return;
             }
-            const QJsonDocument doc = QJsonDocument::fromJson(out.toUtf8());
-            QVERIFY(doc.isObject());
-            QVERIFY(doc.object().value(QStringLiteral("panels")).isArray());
+            QVERIFY(QJsonDocument::fromJson(out.toUtf8()).object().value(QStringLiteral("panels")).isArray());
             return;
         }
         QVERIFY(out.isEmpty());
@@ -175,9 +172,7 @@ private slots:
         QStringList keys;
         for (const QString& l : lines)
             keys << l.section(QLatin1Char('='), 0, 0);
-        QStringList sorted = keys;
-        std::sort(sorted.begin(), sorted.end());
-        QCOMPARE(keys, sorted);
+        QVERIFY2(std::is_sorted(keys.cbegin(), keys.cend()), qPrintable(out));
         QVERIFY(lines.contains(QStringLiteral("aa=first one")) && lines.contains(QStringLiteral("PageSize=A4")) && lines.contains(QStringLiteral("zz=last")));
         // A value cannot forge a line of its own.
         QVERIFY(lines.contains(QStringLiteral("note=line1\\nline2")));
@@ -229,11 +224,8 @@ private slots:
         QTest::newRow("colour MFP: all nine") << TestSupport::samplePPD() << generic + standalone;
         QFile sample(TestSupport::samplePPD());
         QVERIFY(sample.open(QIODevice::ReadOnly));
-        QByteArray text = sample.readAll();
-        text.replace("PDEs/VelmoraColorProfiles.plugin", "PDEs/AdvancedOptionPDE.plugin");
-        QFile withExtension(m_dir.filePath(QStringLiteral("extension.ppd")));
-        QVERIFY(withExtension.open(QIODevice::WriteOnly) && withExtension.write(text) == text.size());
-        QTest::newRow("maker's extension installed") << withExtension.fileName() << generic;
+        const QByteArray text = sample.readAll().replace("PDEs/VelmoraColorProfiles.plugin", "PDEs/AdvancedOptionPDE.plugin");
+        QTest::newRow("maker's extension installed") << TestSupport::writeFile(m_dir.filePath("extension.ppd"), text) << generic;
         // The generic panels are made whatever the PPD has; the others refuse.
         QTest::newRow("no options of any panel") << TestSupport::writePPD(m_dir, QStringLiteral("bare.ppd"), QString()) << generic;
     }

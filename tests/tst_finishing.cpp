@@ -130,16 +130,12 @@ private slots:
         QCOMPARE(view->height(), collapsed);
     }
 
-    void foldingFromTheCommandLine()
+    // A pattern and a number given with the job stay, though folding is on from the start.
+    void foldingGivenWithTheJob()
     {
-        // A pattern and a number given with the job stay, though folding is on from the start.
-        QString out, err;
-        QCOMPARE(TestSupport::runApp({"--ppd", TestSupport::samplePPD(), "--print-options", "-o",
-                                      "FoldingOptions=VFolding VFoldingPattern=Outside VFoldingDividedSet=3"},
-                                     &out, &err),
-                 0);
-        const QStringList lines = out.split(QLatin1Char('\n'));
-        QVERIFY2(lines.contains("VFoldingPattern=Outside") && lines.contains("VFoldingDividedSet=3"), qPrintable(out));
+        auto p = Panel::open(TestSupport::samplePPD(), "FoldingOptions=VFolding VFoldingPattern=Outside VFoldingDividedSet=3");
+        QVERIFY(p);
+        QCOMPARE(p->value("VFoldingPattern") + p->value("VFoldingDividedSet"), QStringLiteral("Outside3"));
     }
 };
 

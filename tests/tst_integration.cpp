@@ -25,8 +25,7 @@ QStringList optionTabs(QPrintDialog& dialog, QTabWidget** found = nullptr)
     for (QTabWidget* tabs : dialog.findChildren<QTabWidget*>()) {
         if (!tabs->count() || tabs->widget(tabs->count() - 1)->objectName() != QLatin1String("printPanelsTab"))
             continue;
-        for (int i = 0; i < tabs->count(); ++i)
-            out << tabs->tabText(i).remove(QLatin1Char('&'));
+        out << TestSupport::tabTexts(tabs);
         if (found)
             *found = tabs;
     }
@@ -145,7 +144,7 @@ private slots:
         PrintPanelsIntegration panels;
         auto a = panel(QStringLiteral("A"));
         if (refuse)
-            a->printAnswer = false;
+            a->printCheck = [] { return false; };
         QVERIFY2(addPanels(panels, dialog, printer, TestSupport::samplePPD(), {a}), qPrintable(panels.errorString()));
         printer.setCopyCount(cell<int>("copies"));
         printer.setCollateCopies(cell<bool>("collate"));
@@ -155,9 +154,7 @@ private slots:
             QVERIFY(printer.outputFileName().isEmpty() && !panels.errorString().isEmpty());
             return;
         }
-        QMap<QString, QString> options;
-        for (const auto& [key, value] : panels.jobOptions())
-            options.insert(key, value);
+        const QMap<QString, QString> options = TestSupport::optionMap(panels.jobOptions());
         QTEST((QStringList{options.value("copies"), options.value("collate")}), "expected");
         QCOMPARE(options.value("PageSize") + options.value("Duplex"), QStringLiteral("LetterNone"));  // the sample's marks
         QVERIFY(printer.outputFormat() == QPrinter::PdfFormat && printer.outputFileName().endsWith(QStringLiteral(".pdf")));

@@ -5,7 +5,6 @@
 #include "MRPDE_MACJobHandlingEH.h"
 #include "MRPDE_MACJobHandlingPDEController.h"
 #include "PDEAlerts.h"
-#include "PDEHelp.h"
 #include "PDESecrets.h"
 #include "PanelHarness.h"
 #include "ui_JAConfirmPopUpWindow.h"
@@ -34,25 +33,6 @@ const QString kIDAlert = QStringLiteral("Enter a valid account ID (up to 64 char
 const QString kPINAlert = QStringLiteral("You must enter a 4-32 digit PIN Code.");
 const QString kUser64 = QString(64, QLatin1Char('u'));
 
-// A disk-only printer whose disk allows Normal, Confidential and Delay.
-const QString kDiskPPD = QStringLiteral(R"(
-*JobSettingHDDOn: "1, 2,5"
-*OpenGroup: InstallableOptions/Installed Options
-*OpenUI *Option4/Hard Disk: Boolean
-*DefaultOption4: True
-*Option4 True/Installed: ""
-*Option4 False/Not Installed: ""
-*CloseUI: *Option4
-*CloseGroup: InstallableOptions
-*OpenUI *JobSetting/Print Mode: PickOne
-*DefaultJobSetting: Normal
-*JobSetting Normal/Normal: ""
-*JobSetting Confidential/Confidential: ""
-*JobSetting Store/Store: ""
-*JobSetting StoreNPrint/Store and Print: ""
-*JobSetting Delay/Delay: ""
-*CloseUI: *JobSetting
-)");
 }
 
 class JobHandlingTest : public QObject {
@@ -68,7 +48,7 @@ private slots:
         QTest::addColumn<QStringList>("selectable");
         QTest::newRow("disk installed") << c5500 << "" << QStringList{"Normal", "Confidential", "Store", "StoreNPrint", "Delay"};
         QTest::newRow("no disk, no memory rule") << c5500 << "Option4=False" << QStringList{};
-        QTest::newRow("disk list 1, 2,5") << TestSupport::writePPD(m_dir, "disk.ppd", kDiskPPD) << "" << QStringList{"Normal", "Confidential", "Delay"};
+        QTest::newRow("disk list 1, 2,5") << TestSupport::writePPDFromFixture(m_dir, "disk.ppd", "job-handling-disk-only.txt") << "" << QStringList{"Normal", "Confidential", "Delay"};
         QTest::newRow("enough memory") << m200 << "" << QStringList{"Normal", "Confidential", "Delay"};
         QTest::newRow("too little memory") << m200 << "InstalledMemory=256MB" << QStringList{};
     }
@@ -154,37 +134,35 @@ private slots:
         QTest::addColumn<QString>("ppd");
         QTest::addColumn<QString>("options");
         QTest::addColumn<QString>("alert");
-        QTest::addColumn<QString>("tab");
         const QString conf = "JobSetting=Confidential VELSecureReleaseOption3=Off ";
         // Gray jobs on the colour printer are not confirmed: the panel's own checks alone.
         const QString gray = "ColorModel=Gray ";
-        QTest::newRow("no password") << c5500 << conf << kPrintModeAlert << "tabViewItemJobSetting";
-        QTest::newRow("passwords differ") << c5500 << conf + "EnterPassword=abcd ConfirmPassword=abce" << kPrintModeAlert << "tabViewItemJobSetting";
-        QTest::newRow("passwords agree") << c5500 << conf + "EnterPassword=abcd ConfirmPassword=abcd" << "" << "";
-        QTest::newRow("delayed job without a time") << c5500 << "JobSetting=Delay" << "" << "";
-        QTest::newRow("secure release holds the job") << c5500 << "JobSetting=Confidential" << "" << "";
-        QTest::newRow("built-in alert") << m200 << "JobSetting=Confidential EnterPassword=abcd" << kPrintModeAlert << "tabViewItemJobSetting";
-        QTest::newRow("account passwords differ") << c5500 << gray + "AccountType=Accounting AccountPassword=abcd ConfirmAcctPassword=abc" << kAccountingAlert << "tabViewItemJobAccounting";
+        QTest::newRow("no password") << c5500 << conf << kPrintModeAlert;
+        QTest::newRow("passwords differ") << c5500 << conf + "EnterPassword=abcd ConfirmPassword=abce" << kPrintModeAlert;
+        QTest::newRow("passwords agree") << c5500 << conf + "EnterPassword=abcd ConfirmPassword=abcd" << "";
+        QTest::newRow("delayed job without a time") << c5500 << "JobSetting=Delay" << "";
+        QTest::newRow("secure release holds the job") << c5500 << "JobSetting=Confidential" << "";
+        QTest::newRow("built-in alert") << m200 << "JobSetting=Confidential EnterPassword=abcd" << kPrintModeAlert;
+        QTest::newRow("account passwords differ") << c5500 << gray + "AccountType=Accounting AccountPassword=abcd ConfirmAcctPassword=abc" << kAccountingAlert;
         const QString account = gray + "AccountType=Accounting AccountPassword=abcd ConfirmAcctPassword=abcd AccountID=d\\\\" + kUser64;
-        QTest::newRow("account user part 65") << c5500 << account + "u" << kIDAlert << "tabViewItemJobAccounting";
-        QTest::newRow("account user part 64") << c5500 << account << "" << "";
-        QTest::newRow("ID without user part") << c5500 << gray + "AccountType=Pincode PINCode=dom\\\\" << kIDAlert << "tabViewItemJobAccounting";
-        QTest::newRow("PINs differ") << c5500 << gray + "AccountType=NewPin NewPIN=1234 ConfirmNewPIN=4321" << kPINAlert << "tabViewItemJobAccounting";
+        QTest::newRow("account user part 65") << c5500 << account + "u" << kIDAlert;
+        QTest::newRow("account user part 64") << c5500 << account << "";
+        QTest::newRow("ID without user part") << c5500 << gray + "AccountType=Pincode PINCode=dom\\\\" << kIDAlert;
+        QTest::newRow("PINs differ") << c5500 << gray + "AccountType=NewPin NewPIN=1234 ConfirmNewPIN=4321" << kPINAlert;
         // Colour jobs are confirmed with the full rules first.
-        QTest::newRow("confirm: password too short") << c5500 << "AccountType=Accounting AccountPassword=abc ConfirmAcctPassword=abc AccountID=bob" << kAccountingAlert << "tabViewItemJobAccounting";
-        QTest::newRow("confirm: ID character") << c5500 << "AccountType=Accounting AccountPassword=abcd ConfirmAcctPassword=abcd AccountID=b:ob" << kIDAlert << "tabViewItemJobAccounting";
-        QTest::newRow("confirm: accepted") << c5500 << "AccountType=Accounting AccountPassword=ab<>cd ConfirmAcctPassword=ab<>cd AccountID=bob" << "" << "";
-        QTest::newRow("ID too long") << c5500 << "AccountType=Pincode PINCode=" + kUser64 + "u" << kIDAlert << "tabViewItemJobAccounting";
-        QTest::newRow("confirm: PIN letters") << c5500 << "AccountType=NewPin NewPIN=12a4 ConfirmNewPIN=12a4" << kPINAlert << "tabViewItemJobAccounting";
-        QTest::newRow("short PIN, one field") << m200 << "AccountType=NewPin NewPIN=123" << kPINAlert << "tabViewItemJobAccounting";
-        QTest::newRow("confirm: one PIN field") << m200 << "AccountType=NewPin NewPIN=1234" << "" << "";
+        QTest::newRow("confirm: password too short") << c5500 << "AccountType=Accounting AccountPassword=abc ConfirmAcctPassword=abc AccountID=bob" << kAccountingAlert;
+        QTest::newRow("confirm: ID character") << c5500 << "AccountType=Accounting AccountPassword=abcd ConfirmAcctPassword=abcd AccountID=b:ob" << kIDAlert;
+        QTest::newRow("confirm: accepted") << c5500 << "AccountType=Accounting AccountPassword=ab<>cd ConfirmAcctPassword=ab<>cd AccountID=bob" << "";
+        QTest::newRow("ID too long") << c5500 << "AccountType=Pincode PINCode=" + kUser64 + "u" << kIDAlert;
+        QTest::newRow("confirm: PIN letters") << c5500 << "AccountType=NewPin NewPIN=12a4 ConfirmNewPIN=12a4" << kPINAlert;
+        QTest::newRow("short PIN, one field") << m200 << "AccountType=NewPin NewPIN=123" << kPINAlert;
+        QTest::newRow("confirm: one PIN field") << m200 << "AccountType=NewPin NewPIN=1234" << "";
     }
 
     void printChecks()
     {
         QFETCH(QString, options);
         QFETCH(QString, alert);
-        QFETCH(QString, tab);
         auto p = Panel::open(cell<QString>("ppd"), options);
         QVERIFY(p);
         PDEAlerts::clearLastAlertText();
@@ -194,7 +172,9 @@ private slots:
         // The refused entry's tab comes to the front once the call has returned.
         QCOMPARE(p->ui->m_tabView->currentWidget(), before);
         QCoreApplication::sendPostedEvents();
-        QCOMPARE(p->ui->m_tabView->currentWidget()->objectName(), tab.isEmpty() ? before->objectName() : tab);
+        // The print mode's alert belongs to its tab, the others to job accounting.
+        const QString tab = alert == kPrintModeAlert ? QStringLiteral("tabViewItemJobSetting") : QStringLiteral("tabViewItemJobAccounting");
+        QCOMPARE(p->ui->m_tabView->currentWidget()->objectName(), alert.isEmpty() ? before->objectName() : tab);
         // Saving makes the panel's own checks (not the confirmation's) and writes nothing when refused.
         const bool saves = alert.isEmpty() || QByteArray(QTest::currentDataTag()).startsWith("confirm");
         QString error;
@@ -287,11 +267,6 @@ private slots:
         QCOMPARE(summary.value(QStringLiteral("JobSetting")).toString(), QStringLiteral("Normal"));
         QVERIFY(!summary.contains(QStringLiteral("AccountPassword")));
         QVERIFY(!p->ui->confidentialViewEnterPasswordTextField->isEnabled());
-        QString opened;
-        PDEHelp::setOpener([&](const QString& path) { opened = path; return true; });
-        QVERIFY(!p->eh->shouldShowHelp());
-        PDEHelp::setOpener(nullptr);
-        QVERIFY(opened.endsWith(QStringLiteral("JobHandlingPDEHelp.html")));
         // Every password and PIN of the panel is kept out of logs, presets and option lists.
         for (const char* key : {"EnterPassword", "ConfirmPassword", "AccountPassword", "ConfirmAcctPassword", "NewPIN", "ConfirmNewPIN", "PINCode"})
             QVERIFY2(PDESecrets::isSecretKey(QString::fromLatin1(key)), key);

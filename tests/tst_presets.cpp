@@ -14,14 +14,7 @@
 
 namespace {
 using OptionList = PrintDialogHost::OptionList;
-
-QMap<QString, QString> toMap(const OptionList& options)
-{
-    QMap<QString, QString> out;
-    for (const auto& [key, value] : options)
-        out.insert(key, value);
-    return out;
-}
+using TestSupport::optionMap;
 
 QByteArray fileBytes(const QString& path)
 {
@@ -46,7 +39,7 @@ private:
     QMap<QString, QString> load(const QString& name)
     {
         OptionList options;
-        return store().load(name, &options) ? toMap(options) : QMap<QString, QString>{{"error", "cannot be loaded"}};
+        return store().load(name, &options) ? optionMap(options) : QMap<QString, QString>{{"error", "cannot be loaded"}};
     }
 
 private slots:
@@ -94,7 +87,7 @@ private slots:
         QVERIFY(store().names(&error).contains(name));
         auto host = PrintDialogHost::openPrinter(QStringLiteral("q/") + name, m_server.address(), &error);
         QVERIFY2(host, qPrintable(error));
-        const QMap<QString, QString> loaded = load(name), job = toMap(host->jobOptions()), given = toMap(options);
+        const QMap<QString, QString> loaded = load(name), job = optionMap(host->jobOptions()), given = optionMap(options);
         for (const auto& [key, value] : options)
             QVERIFY2(loaded.value(key) == value && job.value(key) == value, qPrintable(key));
         // Started from the queue's options where the preset says nothing.
@@ -121,7 +114,7 @@ private slots:
         QVERIFY(loaded.value("note") == QLatin1String("kept") && !loaded.contains("EnterPassword") && !loaded.contains("NewPIN")
                 && !loaded.contains("job-password"));
         OptionList saved;
-        QVERIFY(store().savedOptions(&saved, &error) && !toMap(saved).contains("EnterPassword"));
+        QVERIFY(store().savedOptions(&saved, &error) && !optionMap(saved).contains("EnterPassword"));
     }
 
     // Every line the store does not change stays (comments, unknown lines,
@@ -151,13 +144,13 @@ private slots:
         QVERIFY(dest && qstrcmp(dest->name, "q") == 0 && qstrcmp(dest->instance, "draft") == 0);
         cupsFreeDests(1, dest);
         OptionList saved;
-        QVERIFY(presets.savedOptions(&saved) && toMap(saved).value("note") == QLatin1String("queue's"));
+        QVERIFY(presets.savedOptions(&saved) && optionMap(saved).value("note") == QLatin1String("queue's"));
         // Deleting keeps the other presets, the queue's own options and the file's mode.
         QVERIFY2(presets.save("stays", {{"note", "here"}}, &error) && presets.remove("draft", &error), qPrintable(error));
         QCOMPARE(modeOf(PresetStore::lpoptionsPath()), 0600);
         QVERIFY(!presets.names().contains("draft") && !presets.load("draft", &saved, &error) && error.contains("draft"));
         QCOMPARE(load("stays").value("note"), QStringLiteral("here"));
-        QVERIFY(presets.savedOptions(&saved) && toMap(saved).value("Duplex") == QLatin1String("None"));
+        QVERIFY(presets.savedOptions(&saved) && optionMap(saved).value("Duplex") == QLatin1String("None"));
     }
 
     // Bad input gets a clear error and leaves the file as it was.

@@ -32,10 +32,7 @@ private slots:
         for (const auto& [ppd, tabs] : printers) {
             auto p = Panel::open(ppd);
             QVERIFY(p);
-            QStringList shown;
-            for (int i = 0; i < p->controller->tabView()->count(); ++i)
-                shown << p->controller->tabView()->tabText(i);
-            QCOMPARE(shown, tabs);
+            QCOMPARE(TestSupport::tabTexts(p->controller->tabView()), tabs);
             auto& u = *p->controller->ui();
             if (!tabs.isEmpty())
                 QCOMPARE(u.secureTrueTextField->isVisibleTo(u.tabViewItemSecurity), ppd != kitOnly);

@@ -15,16 +15,6 @@
 #include <cups/cups.h>
 
 namespace {
-// A printer with a paper size that conflicts with long-edge duplex printing.
-const char* kFixtureBody = R"PPD(*OpenUI *Duplex/2-Sided Printing: PickOne
-*OrderDependency: 20 AnySetup *Duplex
-*DefaultDuplex: DuplexNoTumble
-*Duplex None/Off: "<</Duplex false>>setpagedevice"
-*Duplex DuplexNoTumble/Long Edge: "<</Duplex true/Tumble false>>setpagedevice"
-*CloseUI: *Duplex
-*UIConstraints: *PageSize A4 *Duplex DuplexNoTumble
-*UIConstraints: *Duplex DuplexNoTumble *PageSize A4
-)PPD";
 using Changes = QList<QPair<QString, QString>>;
 }
 
@@ -107,7 +97,7 @@ private slots:
         if (PrivateCupsServer::canRun(&m_cupsSkipped))
             QVERIFY2(m_cups.start(&m_cupsSkipped) && m_cups.addQueue("panels", TestSupport::samplePPD(), &m_cupsSkipped),
                      qPrintable(m_cupsSkipped));
-        m_ppd = TestSupport::writePPD(m_dir, QStringLiteral("fixture.ppd"), QString::fromLatin1(kFixtureBody));
+        m_ppd = TestSupport::writePPDFromFixture(m_dir, QStringLiteral("fixture.ppd"), QStringLiteral("window-a4-duplex-conflict.txt"));
     }
 
     void panelList_data()
@@ -263,9 +253,8 @@ private slots:
     // document with a blank, a value with quotes, the PIN hidden), to copy.
     void printWithPPDOnly()
     {
-        QFile document(m_dir.filePath(QStringLiteral("my report.txt")));
-        QVERIFY(document.open(QIODevice::WriteOnly) && document.write("hello\n"));
-        openWindow({"note='say \"hi\" now'", "PINCode=9876"}, {document.fileName()});
+        const QString document = TestSupport::writeFile(m_dir.filePath(QStringLiteral("my report.txt")), "hello\n");
+        openWindow({"note='say \"hi\" now'", "PINCode=9876"}, {document});
         type("copiesSpin", QStringLiteral("2"));
         auto* print = widget<QPushButton>("printButton");
         QCOMPARE(print->text().remove(QLatin1Char('&')), QStringLiteral("Show lp Command…"));
@@ -274,7 +263,7 @@ private slots:
         QTRY_VERIFY((shown = m_window->findChild<LpCommandDialog*>()) && shown->isVisible());
         QCOMPARE(m_journal.filter(QStringLiteral(":save")), QStringList({"A:save", "B:save", "C:save"}));
         const QString command = shown->findChild<QPlainTextEdit*>(QStringLiteral("lpCommandText"))->toPlainText();
-        QCOMPARE(command, LpCommand("fixture", m_window->session()->host().jobOptions(), {document.fileName()}).commandLine());
+        QCOMPARE(command, LpCommand("fixture", m_window->session()->host().jobOptions(), {document}).commandLine());
         for (const char* part : {"lp -d fixture ", "-o copies=2", "-o PageSize=Letter", "/my report.txt'",
                                     "'note=\"say \\\"hi\\\" now\"'", "PINCode=\"<hidden>\""})
             QVERIFY2(command.contains(QString::fromUtf8(part)), qPrintable(command));

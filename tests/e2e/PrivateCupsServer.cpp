@@ -5,11 +5,10 @@
 #include <QDir>
 #include <QRegularExpression>
 #include <QStandardPaths>
+#include <QTcpServer>
 #include <QThread>
-#include <arpa/inet.h>
 #include <cups/cups.h>
 #include <pwd.h>
-#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
@@ -26,16 +25,8 @@ if [ $# -ge 6 ]; then cat "$6"; else cat; fi > "$base.doc" || exit 1
 // A port on 127.0.0.1 that nobody listens on now.
 quint16 freePort()
 {
-    const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
-    sockaddr_in a{};
-    a.sin_family = AF_INET;
-    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t len = sizeof a;
-    quint16 port = 0;
-    if (::bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof a) == 0 && ::getsockname(fd, reinterpret_cast<sockaddr*>(&a), &len) == 0)
-        port = ntohs(a.sin_port);
-    ::close(fd);
-    return port;
+    QTcpServer probe;
+    return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : 0;
 }
 
 bool writeFile(const QString& path, const QByteArray& text, QFile::Permissions perms, QString* error)
@@ -47,11 +38,6 @@ bool writeFile(const QString& path, const QByteArray& text, QFile::Permissions p
     return false;
 }
 
-QByteArray readAll(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
 }
 
 QMap<QString, QString> PrivateCupsServer::CapturedJob::parsedOptions() const
@@ -108,19 +94,10 @@ bool PrivateCupsServer::start(QString* error)
     for (const QString& d : QDir(QStringLiteral("/usr/lib/cups")).entryList(QDir::Dirs | QDir::NoDotAndDotDot))
         if (!d.startsWith(QLatin1String("backend")))
             QFile::link(QStringLiteral("/usr/lib/cups/") + d, path(QStringLiteral("bin/") + d));
-    const QString files = QStringLiteral("ServerRoot %1/etc\nRequestRoot %1/spool\nTempDir %1/spool/tmp\n"
-                                         "CacheDir %1/cache\nStateDir %1/state\nServerBin %1/bin\n"
-                                         "ServerKeychain %1/etc/ssl\nPrintcap %1/etc/printcap\nAccessLog %1/log/access_log\n"
-                                         "ErrorLog %1/log/error_log\nPageLog %1/log/page_log\n"
-                                         "FileDevice Yes\nUser lp\nGroup lp\n")
-                              .arg(m_dir->path());
-    const QString conf = QStringLiteral("Listen 127.0.0.1:%1\nBrowsing No\nWebInterface No\nDefaultAuthType None\n"
-                                        "LogLevel warn\nAccessLogLevel all\nPreserveJobHistory Yes\nPreserveJobFiles Yes\n"
-                                        "<Location />\n  Order allow,deny\n  Allow all\n</Location>\n"
-                                        "<Location /admin>\n  Order allow,deny\n  Allow all\n</Location>\n"
-                                        "<Policy default>\n  JobPrivateAccess default\n  JobPrivateValues none\n"
-                                        "  <Limit All>\n    Order deny,allow\n  </Limit>\n</Policy>\n")
-                             .arg(m_port);
+    // The configuration of tests/e2e, with this server's folder and port.
+    const QDir config(QStringLiteral(PDE_E2E_DIR));
+    const QString files = QString::fromUtf8(TestSupport::readFile(config.filePath(QStringLiteral("cups-files.conf")))).arg(m_dir->path());
+    const QString conf = QString::fromUtf8(TestSupport::readFile(config.filePath(QStringLiteral("cupsd.conf")))).arg(m_port);
     const auto rw = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup;
     if (!writeFile(path(QStringLiteral("bin/backend/capture")), backendScript, rwx | rx, error)
         || !writeFile(path(QStringLiteral("cups-files.conf")), files.toUtf8(), rw, error)
@@ -214,9 +191,9 @@ bool PrivateCupsServer::waitForJob(const QString& queue, int id, CapturedJob* jo
         QThread::msleep(25);
     }
     const QString base = path(QStringLiteral("capture/%1/job-%2").arg(queue).arg(id));
-    QByteArray argv = readAll(base + QStringLiteral(".argv"));
+    QByteArray argv = TestSupport::readFile(base + QStringLiteral(".argv"));
     argv.chop(1);  // the last NUL
-    *job = CapturedJob{id, {}, readAll(base + QStringLiteral(".doc")), {}};
+    *job = CapturedJob{id, {}, TestSupport::readFile(base + QStringLiteral(".doc")), {}};
     for (const QByteArray& a : argv.split('\0'))
         job->argv << QString::fromUtf8(a);
     // The server's spool keeps each document of the job as dJOBID-NNN.
@@ -224,7 +201,7 @@ bool PrivateCupsServer::waitForJob(const QString& queue, int id, CapturedJob* jo
         const QString f = path(QStringLiteral("spool/d%1-%2").arg(id, 5, 10, QLatin1Char('0')).arg(n, 3, 10, QLatin1Char('0')));
         if (!QFileInfo::exists(f))
             return QFileInfo::exists(base + QStringLiteral(".done"));
-        job->spooledDocuments << readAll(f);
+        job->spooledDocuments << TestSupport::readFile(f);
     }
 }
 
@@ -251,10 +228,10 @@ QString PrivateCupsServer::jobAttribute(int jobId, const QString& name) const
 
 QString PrivateCupsServer::errorLog() const
 {
-    return QString::fromUtf8(readAll(path(QStringLiteral("log/error_log"))));
+    return QString::fromUtf8(TestSupport::readFile(path(QStringLiteral("log/error_log"))));
 }
 
 QStringList PrivateCupsServer::accessLog() const
 {
-    return QString::fromUtf8(readAll(path(QStringLiteral("log/access_log")))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    return QString::fromUtf8(TestSupport::readFile(path(QStringLiteral("log/access_log")))).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
 }

@@ -9,8 +9,9 @@
 #include <memory>
 
 // A cupsd of the tests' own: listening on 127.0.0.1 at a free port, with its
-// configuration, spool, cache, state and logs in a temporary folder (its own
-// ServerRoot), FileDevice Yes, a policy without authentication, and a
+// configuration (tests/e2e/cupsd.conf and cups-files.conf), spool, cache,
+// state and logs in a temporary folder (its own ServerRoot), FileDevice Yes, a
+// policy without authentication, and a
 // "capture" backend that keeps what every job brings. It needs root (cupsd
 // runs its backends as user lp); canRun() tells.
 //

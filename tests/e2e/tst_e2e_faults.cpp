@@ -59,13 +59,12 @@ private:
     QStringList m_boxes;  // the texts of the message boxes shown, each closed at once
     QTimer m_closer;
 
-    void openWindow(const QString& queue, const QStringList& docs, const QString& options = QString())
+    void openWindow(const QString& queue, const QStringList& docs, const QString& options)
     {
         QString error;
         m_window.reset();  // the old window lets go of the alert handler first
         m_window = std::make_unique<PrintDialogWindow>();
-        const QStringList optionStrings = options.isEmpty() ? QStringList() : QStringList{options};
-        QVERIFY2(m_window->openSession({{}, queue, m_server.address(), {}, optionStrings}, &error), qPrintable(error));
+        QVERIFY2(m_window->openSession({{}, queue, m_server.address(), {}, {options}}, &error), qPrintable(error));
         m_window->setDocuments(docs);
         m_window->show();
         QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
@@ -240,10 +239,8 @@ private slots:
         QFETCH(bool, fullDisk);
         QString error;
         QVERIFY2(PresetStore("q").save("Kept", {{"Duplex", "DuplexNoTumble"}}, &error), qPrintable(error));
-        QFile file(PresetStore::lpoptionsPath());
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray old = file.readAll();
-        file.close();
+        const QString file = PresetStore::lpoptionsPath();
+        const QByteArray old = TestSupport::readFile(file);
         openWindow("q", {}, "ColorModel=Gray");
         const PrintDialogHost::OptionList before = choices();
         auto* presets = widget<QComboBox>("presetCombo");
@@ -269,11 +266,10 @@ private slots:
         QFile::setPermissions(dir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 
         QCOMPARE(m_boxes.size(), 2);
-        const QString why = QStringLiteral("%1 cannot be written: ").arg(file.fileName());
+        const QString why = QStringLiteral("%1 cannot be written: ").arg(file);
         QVERIFY2(m_boxes[0].startsWith("The preset cannot be saved: " + why), qPrintable(m_boxes[0]));
         QVERIFY2(m_boxes[1].startsWith("The defaults cannot be saved: " + why), qPrintable(m_boxes[1]));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), old);
+        QCOMPARE(TestSupport::readFile(file), old);
         QCOMPARE(QDir(dir).entryList(QDir::Files), QStringList{"lpoptions"});  // no temporary file left
         QCOMPARE(presets->count(), presetCount);
         QCOMPARE(presets->currentText(), QStringLiteral("Default settings"));

@@ -58,15 +58,6 @@ inline QString text(const uint8_t* data, size_t size)
     return QString::fromUtf8(reinterpret_cast<const char*>(data), qsizetype(size));
 }
 
-// The input as lines; missing lines read as empty.
-inline QStringList lines(const uint8_t* data, size_t size, int atLeast)
-{
-    QStringList l = text(data, size).split(QLatin1Char('\n'));
-    while (l.size() < atLeast)
-        l.append(QString());
-    return l;
-}
-
 // A host on the sample printer that has every panel, made anew for each input.
 inline std::unique_ptr<PrintDialogHost> sampleHost()
 {

@@ -11,7 +11,8 @@
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size)
 {
     FuzzSupport::start();
-    const QStringList in = FuzzSupport::lines(data, size, 3);
+    QStringList in = FuzzSupport::text(data, size).split(QLatin1Char('\n'));
+    in.resize(qMax(in.size(), qsizetype(3)));  // missing lines read as empty
     const QString& list = in[0];
     const QString& inserts = in[1];
     const QString& exceptions = in[2];

@@ -9,7 +9,7 @@
 #   - --print to a private cupsd (bench/private-cupsd.sh: own ServerRoot on
 #     127.0.0.1, a capture backend), stopped by its pid;
 #   - the desktop entry and the AppStream metainfo validate;
-#   - an application builds against the integration library's -dev package.
+#   - the example application builds against the integration library's -dev package.
 # It changes the system, so it runs as root only (exit 77, skipped, else).
 # Usage: tests/sh/check_package.sh BUILD_DIR
 set -euo pipefail
@@ -31,7 +31,8 @@ export DEBIAN_FRONTEND=noninteractive LC_ALL=C.UTF-8
 work=$(mktemp -d /tmp/print-panels-package-XXXXXX)
 chmod 755 "$work"  # apt's own user reads the .deb files here
 cupsd_started=0
-private_cupsd="$(dirname "$(realpath "$0")")/../../bench/private-cupsd.sh"
+repo=$(realpath "$(dirname "$0")/../..")
+private_cupsd="$repo/bench/private-cupsd.sh"
 installed=0
 failed=0
 
@@ -98,7 +99,7 @@ installed=1  # from here on, the packages are removed on the way out
 apt-get install -y -qq "${debs[@]}" >"$work/install.log" 2>&1 || { cat "$work/install.log"; exit 1; }
 pass "apt-get install ${packages[*]}"
 
-# From now on nothing comes from the source or build tree.
+# From now on nothing comes from the source or build tree but the example's sources.
 cd "$work"
 check "print-panels is /usr/bin/print-panels" test "$(command -v print-panels)" = /usr/bin/print-panels
 check "print-panels --version" test "$(print-panels --version)" = "print-panels $version"
@@ -147,38 +148,25 @@ check "a copy under another prefix reads its own bundle ($logged log lines)" tes
 logged=$(PRINT_PANELS_LOG_STDERR=1 print-panels --ppd "$sample" --describe 2>&1 >/dev/null | grep -c '^PDE: ' || true)
 check "the installed program reads /usr/share/print-panels ($logged log lines)" test "$logged" -eq 0
 
-# An application of its own, built with the -dev package, opens the panels
-# of the sample printer through the installed library.
+# The example application, built with the -dev package, lists the panels of
+# the sample printer through the installed library.
 mkdir "$work/app"
+cp "$repo"/examples/qt-app/*.cpp "$repo"/examples/qt-app/*.h "$work/app/"
 cat >"$work/app/CMakeLists.txt" <<'EOF'
 cmake_minimum_required(VERSION 3.25)
 project(PanelsUser CXX)
+set(CMAKE_AUTOMOC ON)
 find_package(PrintPanels REQUIRED)
-add_executable(panels-user main.cpp)
+add_executable(panels-user main.cpp EditorWindow.cpp)
 target_link_libraries(panels-user PRIVATE PrintPanels::Integration)
 EOF
-cat >"$work/app/main.cpp" <<'EOF'
-#include <PrintPanelsIntegration.h>
-#include <QApplication>
-#include <QPrinter>
-#include <cstdio>
-int main(int argc, char** argv)
-{
-    QApplication app(argc, argv);
-    QPrinter printer;
-    PrintPanelsIntegration panels;
-    if (argc < 2 || !panels.openPrinter(&printer, QString::fromLocal8Bit(argv[1])))
-        return 1;
-    std::printf("%s\n", qPrintable(panels.panelNames().join(QLatin1Char(','))));
-    return 0;
-}
-EOF
 if cmake -S "$work/app" -B "$work/app/build" >"$work/app.log" 2>&1 && cmake --build "$work/app/build" >>"$work/app.log" 2>&1 \
-    && QT_QPA_PLATFORM=offscreen "$work/app/build/panels-user" "$sample" >"$work/app.out" 2>>"$work/app.log"; then
-    pass "an application built with libprintpanels-integration-dev shows: $(cat "$work/app.out")"
+    && QT_QPA_PLATFORM=offscreen "$work/app/build/panels-user" --list-tabs --ppd "$sample" >"$work/app.out" 2>>"$work/app.log" \
+    && grep -qx Finishing "$work/app.out"; then
+    pass "the example built with libprintpanels-integration-dev shows: $(tr '\n' ',' <"$work/app.out")"
 else
-    cat "$work/app.log"
-    fail "an application built with libprintpanels-integration-dev"
+    cat "$work/app.log" "$work/app.out"
+    fail "the example built with libprintpanels-integration-dev"
 fi
 
 # --print to a private cupsd (bench/private-cupsd.sh) whose capture backend keeps the job.
