@@ -5,10 +5,11 @@
 #include <QDir>
 #include <QRegularExpression>
 #include <QStandardPaths>
-#include <QTcpServer>
 #include <QThread>
+#include <arpa/inet.h>
 #include <cups/cups.h>
 #include <pwd.h>
+#include <sys/socket.h>
 #include <unistd.h>
 
 namespace {
@@ -25,8 +26,16 @@ if [ $# -ge 6 ]; then cat "$6"; else cat; fi > "$base.doc" || exit 1
 // A port on 127.0.0.1 that nobody listens on now.
 quint16 freePort()
 {
-    QTcpServer probe;
-    return probe.listen(QHostAddress::LocalHost) ? probe.serverPort() : 0;
+    const int fd = ::socket(AF_INET, SOCK_STREAM, 0);
+    sockaddr_in a{};
+    a.sin_family = AF_INET;
+    a.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t len = sizeof a;
+    quint16 port = 0;
+    if (::bind(fd, reinterpret_cast<sockaddr*>(&a), sizeof a) == 0 && ::getsockname(fd, reinterpret_cast<sockaddr*>(&a), &len) == 0)
+        port = ntohs(a.sin_port);
+    ::close(fd);
+    return port;
 }
 
 bool writeFile(const QString& path, const QByteArray& text, QFile::Permissions perms, QString* error)
